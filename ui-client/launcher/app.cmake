@@ -1,0 +1,1 @@
+# Controller, worker, main and the bundle are added here.

@@ -1,0 +1,1 @@
+target_sources(launcher_core PRIVATE strtable.cpp)

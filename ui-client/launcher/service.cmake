@@ -1,0 +1,1 @@
+# Upgrade service and extractor sources are added here.
