@@ -1,0 +1,108 @@
+#ifndef FILE_OP_H
+#define FILE_OP_H
+
+#include <dirent.h>
+
+#include <cstdint>
+
+#include "ustring.h"
+
+// The file-system layer: free functions over ustring paths that report their
+// outcome as small integer codes and log failures under "file_op_debug".
+//
+// Codes: 0 success; -1 bad argument or failed examination; -2 missing source
+// (FSStat, FSRename), full device (FSCopy) or folder not created (FSMKDir);
+// -3 a failed step of a multi-step move or delete; -100 a name too long.
+
+// File type codes, from st_mode for _FILE_INFO_tag and from d_type for DIR_ENTRY.
+const int32_t FILE_TYPE_UNKNOWN = 0;
+const int32_t FILE_TYPE_REGULAR = 1;
+const int32_t FILE_TYPE_DIRECTORY = 2;
+const int32_t FILE_TYPE_SYMLINK = 3;
+const int32_t FILE_TYPE_DEVICE = 5;
+const int32_t FILE_TYPE_FIFO = 6;
+const int32_t FILE_TYPE_SOCKET = 7;
+
+// DIR_HANDLE flag: FSReadDir also fills each entry's mtime and size.
+const int32_t FS_DIR_WITH_INFO = 1;
+
+struct _FILE_INFO_tag {
+    ustring path;   // canonical after GetFileInfo on an existing file
+    ustring extra;  // set by no operation here; part of equality
+    int32_t type = FILE_TYPE_UNKNOWN;
+    int32_t mtime = 0;  // seconds since the epoch
+    int64_t size = 0;
+    bool exists = false;
+    uint32_t uid = 0;
+    uint32_t gid = 0;
+    uint32_t mode = 0;  // st_mode, type and permission bits
+};
+
+// Equal when exists, size, mtime, type, path and extra match; owner and mode
+// are ignored.
+bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b);
+bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b);
+
+struct DIR_HANDLE {
+    ustring path;
+    int32_t flags = 0;
+    DIR* dir = nullptr;  // null after FSCloseDir
+};
+
+struct DIR_ENTRY {
+    ustring name;  // bare name, "." and ".." included
+    int32_t type = FILE_TYPE_UNKNOWN;
+    int32_t mtime = 0;  // 0 unless the handle has FS_DIR_WITH_INFO
+    int64_t size = 0;
+};
+
+// Owner ids given to folders this layer creates; -1 (the default) means none.
+void FSInitialize(unsigned uid, unsigned gid);
+int FSInit(const ustring& path);
+int FSChown(const ustring& path);
+
+// With exact set, true only when path is already the file's canonical path
+// (after NFC normalisation of both sides).
+bool IsFileExist(const ustring& path, bool exact);
+// Examines the entry itself, not a link's target. A missing path gives 0
+// with a placeholder record (exists false, mtime now).
+int GetFileInfo(const ustring& path, _FILE_INFO_tag& info);
+// 0 with path made canonical, or -1 with path unchanged.
+int FSGetRealPath(ustring& path);
+// 0 (info.exists tells), -1 empty path, -2 exists but cannot be examined.
+int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact);
+
+// 0, -1, or -2 when the target device is full.
+int FSCopy(const ustring& src, const ustring& dst, bool remove_src);
+// 0, -1 empty argument, -2 missing source, -3 failed step, -100 name too long.
+// Falls back to copying when src and dst lie on different file systems.
+int FSRename(const ustring& src, const ustring& dst, bool exact);
+// 0, -1, or -2 when the folder could not be created.
+int FSMKDir(const ustring& path, bool recursive);
+// Creates every missing folder of path. mode 0xFFFF means 0777 under the
+// umask; any other mode is applied exactly. 0, or -1 with errno set.
+// stop_at receives a pointer into path's text where the last handled
+// component ends.
+int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigned short mode);
+// Recursive delete; links are removed, never followed. 0, -1 or -3.
+int FSRemove(const ustring& path, bool flag);
+
+int FSMktemp(const ustring& dir, ustring& out);
+int FSCreateTempPath(const ustring& dir, ustring& out);
+int FSUTime(const ustring& path, long atime, long mtime);
+
+// Directory walk: FSReadDir gives 1 with an entry, 0 at the end, -1 on error.
+// FSCloseDir is called once after a successful FSOpenDir.
+int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle);
+int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry);
+void FSCloseDir(DIR_HANDLE& handle);
+
+bool FSTimeEqual(long a, long b);
+// True when access(path, mode) is refused for lack of permission.
+bool isFileLocked(const ustring& path, int mode);
+// True when path lies on a network file system.
+bool isMountPoint(const ustring& path);
+// True when path lies on a FAT file system.
+bool IsMSDOS(const ustring& path);
+
+#endif  // FILE_OP_H
