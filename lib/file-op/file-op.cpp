@@ -1,0 +1,598 @@
+#include "file-op.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utime.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "fs-platform.h"
+#include "log.h"
+#include "tmp_name_gen.h"
+
+namespace {
+
+const char kLogComponent[] = "file_op_debug";
+
+// One heap buffer per copy; large chunks keep cross-device moves of the
+// package fast without holding the whole file.
+const size_t kCopyBufferSize = 32 * 1024 * 1024;
+
+const unsigned kNoId = static_cast<unsigned>(-1);
+const unsigned short kDefaultFolderModeRequest = 0xFFFF;
+const mode_t kDefaultFolderMode = 0777;
+const mode_t kNewFileMode = 0666;
+const mode_t kTempFileMode = 0644;
+const uint32_t kStatModeBits = 0xFFFF;
+
+// Owner of the folders this layer creates; written once at start-up.
+unsigned uid = kNoId;
+unsigned gid = kNoId;
+
+using FreeDeleter = decltype(&free);
+
+int32_t typeFromMode(mode_t mode) {
+    switch (mode & S_IFMT) {
+    case S_IFREG: return FILE_TYPE_REGULAR;
+    case S_IFDIR: return FILE_TYPE_DIRECTORY;
+    case S_IFLNK: return FILE_TYPE_SYMLINK;
+    case S_IFCHR:
+    case S_IFBLK: return FILE_TYPE_DEVICE;
+    case S_IFIFO: return FILE_TYPE_FIFO;
+    case S_IFSOCK: return FILE_TYPE_SOCKET;
+    default: return -1;
+    }
+}
+
+int32_t typeFromDirentType(unsigned char d_type) {
+    switch (d_type) {
+    case DT_REG: return FILE_TYPE_REGULAR;
+    case DT_DIR: return FILE_TYPE_DIRECTORY;
+    case DT_LNK: return FILE_TYPE_SYMLINK;
+    case DT_CHR:
+    case DT_BLK: return FILE_TYPE_DEVICE;
+    case DT_FIFO: return FILE_TYPE_FIFO;
+    case DT_SOCK: return FILE_TYPE_SOCKET;
+    default: return FILE_TYPE_UNKNOWN;
+    }
+}
+
+ustring childPath(const ustring& dir, const ustring& name) {
+    return dir + "/" + name;
+}
+
+bool isDotEntry(const ustring& name) {
+    return name == "." || name == "..";
+}
+
+// Logs why the platform could not resolve a path, naming the step that failed.
+void logResolveFailure(fs_platform::ResolveStep step, int status) {
+    if (step == fs_platform::RESOLVE_LOOKUP)
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
+                       __LINE__, status);
+    else
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSRefMakePath: %d\n",
+                       __LINE__, status);
+}
+
+// The exact half of IsFileExist: nfc_path must already be the canonical path.
+bool isCanonicalSpelling(const ustring& nfc_path) {
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): Input file path = [%s].\n",
+                   __LINE__, nfc_path.c_str());
+    char canonical[fs_platform::kPathBufferSize] = {};
+    fs_platform::ResolveStep failed_step;
+    const int status = fs_platform::canonical_path(nfc_path.c_str(), canonical, &failed_step);
+    if (status != 0) {
+        logResolveFailure(failed_step, status);
+        return false;
+    }
+    const ustring nfc_canonical = ustring(canonical).normalize(ustring::NFC);
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
+                   "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", __LINE__,
+                   nfc_canonical.c_str());
+    if (nfc_path != nfc_canonical)
+        return false;
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): File exist.\n", __LINE__);
+    return true;
+}
+
+// The record of a file that does not exist yet, as if about to be created.
+void fillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
+    info.exists = false;
+    info.mtime = static_cast<int32_t>(time(nullptr));
+    info.path = path;
+    info.size = 0;
+    info.type = FILE_TYPE_REGULAR;
+    info.uid = 0;
+    info.gid = 0;
+    info.mode = 0;
+}
+
+int openForCopy(const ustring& path, int flags) {
+    const int fd = open(path.c_str(), flags, kNewFileMode);
+    if (fd < 0)
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
+                       __LINE__, path.c_str(), strerror(errno), errno);
+    return fd;
+}
+
+// A full device is told apart from other write errors so callers can say so.
+int writeFailureCode() {
+    return errno == ENOSPC ? -2 : -1;
+}
+
+// Writes all of data, continuing after short writes; 0, -1 or -2.
+int writeChunk(int fd, const char* data, ssize_t length) {
+    while (length > 0) {
+        const ssize_t written = write(fd, data, static_cast<size_t>(length));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 1) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
+                           __LINE__, strerror(errno), errno);
+            return writeFailureCode();
+        }
+        data += written;
+        length -= written;
+    }
+    return 0;
+}
+
+ssize_t readChunk(int fd, char* buffer) {
+    ssize_t count;
+    do {
+        count = read(fd, buffer, kCopyBufferSize);
+    } while (count < 0 && errno == EINTR);
+    return count;
+}
+
+// Copies every byte from src_fd to dst_fd; 0, -1 or -2.
+int copyBytes(int src_fd, int dst_fd) {
+    std::unique_ptr<char, FreeDeleter> buffer(static_cast<char*>(malloc(kCopyBufferSize)), &free);
+    if (!buffer) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
+                       __LINE__, static_cast<int>(kCopyBufferSize), strerror(errno), errno);
+        return -1;
+    }
+    ssize_t count;
+    while ((count = readChunk(src_fd, buffer.get())) > 0) {
+        const int status = writeChunk(dst_fd, buffer.get(), count);
+        if (status != 0)
+            return status;
+    }
+    if (count < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n",
+                       __LINE__, strerror(errno), errno);
+        return -1;
+    }
+    return 0;
+}
+
+// Flushes and closes fd; the first failure's errno is kept.
+int syncAndClose(int fd) {
+    const int sync_status = fsync(fd);
+    const int sync_errno = errno;
+    const int close_status = close(fd);
+    if (sync_status != 0) {
+        errno = sync_errno;
+        return -1;
+    }
+    return close_status;
+}
+
+// Data the device could not take may only show up at the flush; a copy that
+// then counted as done would let FSRename delete the only good source.
+int finishCopyTarget(int dst_fd, int copy_status) {
+    if (syncAndClose(dst_fd) == 0 || copy_status != 0)
+        return copy_status;
+    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
+                   __LINE__, strerror(errno), errno);
+    return writeFailureCode();
+}
+
+int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact);
+
+// The EXDEV fallback of FSRename. Links, devices and other special files
+// cannot be carried over by copying and are left where they are.
+int moveAcrossDevices(const ustring& src, const ustring& dst, int32_t type, bool exact) {
+    if (type == FILE_TYPE_REGULAR)
+        return FSCopy(src, dst, true) < 0 ? -3 : 0;
+    if (type == FILE_TYPE_DIRECTORY)
+        return moveFolderAcrossDevices(src, dst, exact);
+    return 0;
+}
+
+enum class WalkOutcome { NotOpened, Stopped, Finished };
+
+// Calls visit with the name of every entry of dir but "." and "..", depth
+// first through the caller's recursion, until visit returns nonzero. A read
+// error ends the walk as if the folder were exhausted.
+WalkOutcome forEachChild(const ustring& dir, const std::function<int(const ustring&)>& visit) {
+    DIR_HANDLE handle;
+    if (FSOpenDir(dir, 0, handle) != 0)
+        return WalkOutcome::NotOpened;
+    WalkOutcome outcome = WalkOutcome::Finished;
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) == 1) {
+        if (isDotEntry(entry.name))
+            continue;
+        if (visit(entry.name) != 0) {
+            outcome = WalkOutcome::Stopped;
+            break;
+        }
+    }
+    FSCloseDir(handle);
+    return outcome;
+}
+
+int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact) {
+    if (FSMKDir(dst, true) != 0)
+        return -3;
+    const WalkOutcome outcome = forEachChild(src, [&](const ustring& name) {
+        return FSRename(childPath(src, name), childPath(dst, name), exact);
+    });
+    if (outcome != WalkOutcome::Finished)
+        return -3;
+    return remove(src.c_str()) == 0 ? 0 : -3;
+}
+
+// Gives a folder made by FSMKDirP to the configured owner; nothing to do
+// while no owner was configured.
+void giveToConfiguredOwner(const char* path) {
+    if (uid == kNoId && gid == kNoId)
+        return;
+    const uid_t owner = uid == kNoId ? geteuid() : uid;
+    const gid_t group = gid == kNoId ? getegid() : gid;
+    if (chown(path, owner, group) != 0)
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): chown(%s): %s\n", __LINE__,
+                       path, strerror(errno));
+}
+
+// Makes prefix a folder if it is not one; 0, or -1 with errno set.
+int ensureFolder(const char* prefix, bool is_last, bool replace_non_dirs, mode_t mode) {
+    struct stat st;
+    if (stat(prefix, &st) == 0) {
+        if (S_ISDIR(st.st_mode))
+            return 0;
+        if (!replace_non_dirs) {
+            errno = is_last ? EEXIST : ENOTDIR;
+            return -1;
+        }
+        if (remove(prefix) != 0)
+            return -1;
+    }
+    if (mkdir(prefix, mode) != 0)
+        return -1;
+    giveToConfiguredOwner(prefix);
+    return 0;
+}
+
+// Walks text component by component, cutting it after each one in turn.
+// *end receives the offset of the character that ended the last component
+// handled.
+int makeEachFolder(char* text, bool replace_non_dirs, mode_t mode, size_t* end) {
+    size_t start = text[0] == '/' ? 1 : 0;
+    for (;;) {
+        const size_t cut = start + strcspn(text + start, "/");
+        const bool is_last = text[cut] == '\0' || text[cut + 1] == '\0';
+        const char saved = text[cut];
+        text[cut] = '\0';
+        const int status = ensureFolder(text, is_last, replace_non_dirs, mode);
+        text[cut] = saved;
+        *end = cut;
+        if (status != 0)
+            return -1;
+        if (is_last)
+            return 0;
+        start = cut + 1;
+    }
+}
+
+int removeEntry(const ustring& path) {
+    return remove(path.c_str()) == 0 ? 0 : -3;
+}
+
+}  // namespace
+
+bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+    return a.exists == b.exists && a.size == b.size && a.mtime == b.mtime && a.type == b.type &&
+           a.path == b.path && a.extra == b.extra;
+}
+
+bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+    return !(a == b);
+}
+
+void FSInitialize(unsigned new_uid, unsigned new_gid) {
+    uid = new_uid;
+    gid = new_gid;
+}
+
+int FSInit(const ustring&) {
+    return 0;
+}
+
+int FSChown(const ustring& path) {
+    return chown(path.c_str(), uid, gid);
+}
+
+bool IsFileExist(const ustring& path, bool exact) {
+    const ustring nfc_path = path.normalize(ustring::NFC);
+    if (nfc_path.empty() || access(nfc_path.c_str(), F_OK) != 0)
+        return false;
+    return !exact || isCanonicalSpelling(nfc_path);
+}
+
+int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
+    struct stat st;
+    if (lstat(path.c_str(), &st) != 0) {
+        if (errno != ENOENT)
+            return -1;
+        fillMissingFileInfo(path, info);
+        return 0;
+    }
+    info.exists = true;
+    info.mtime = static_cast<int32_t>(st.st_mtime);
+    info.path = path;
+    info.size = st.st_size;
+    info.uid = st.st_uid;
+    info.gid = st.st_gid;
+    info.mode = st.st_mode & kStatModeBits;
+    const int32_t type = typeFromMode(st.st_mode);
+    if (type < 0)
+        return -1;
+    info.type = type;
+    // A path the platform cannot resolve (a dangling link) keeps its spelling.
+    FSGetRealPath(info.path);
+    return 0;
+}
+
+int FSGetRealPath(ustring& path) {
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d):  org path [%s]\n", __LINE__,
+                   path.c_str());
+    char canonical[fs_platform::kPathBufferSize] = {};
+    fs_platform::ResolveStep failed_step;
+    if (fs_platform::canonical_path(path.c_str(), canonical, &failed_step) != 0)
+        return -1;
+    path = canonical;
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d):  get full path [%s]\n", __LINE__,
+                   path.c_str());
+    return 0;
+}
+
+int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact) {
+    if (path.empty())
+        return -1;
+    if (!IsFileExist(path, exact)) {
+        info.exists = false;
+        return 0;
+    }
+    return GetFileInfo(path, info) == 0 ? 0 : -2;
+}
+
+int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
+    const int src_fd = openForCopy(src, O_RDONLY);
+    if (src_fd < 0)
+        return -1;
+    const int dst_fd = openForCopy(dst, O_WRONLY | O_CREAT | O_TRUNC);
+    if (dst_fd < 0) {
+        close(src_fd);
+        return -1;
+    }
+    const int status = finishCopyTarget(dst_fd, copyBytes(src_fd, dst_fd));
+    // Read-only descriptor: closing it cannot lose data.
+    close(src_fd);
+    if (status != 0 || !remove_src)
+        return status;
+    return remove(src.c_str()) == 0 ? 0 : -1;
+}
+
+int FSRename(const ustring& src, const ustring& dst, bool exact) {
+    if (src.empty() || dst.empty())
+        return -1;
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, exact) != 0 || !info.exists)
+        return -2;
+    if (rename(src.c_str(), dst.c_str()) == 0)
+        return 0;
+    if (errno == ENAMETOOLONG)
+        return -100;
+    if (errno != EXDEV)
+        return -3;
+    return moveAcrossDevices(src, dst, info.type, exact);
+}
+
+int FSMKDir(const ustring& path, bool recursive) {
+    if (path.empty())
+        return -1;
+    _FILE_INFO_tag info;
+    if (GetFileInfo(path, info) != 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n",
+                       __LINE__, path.c_str());
+        return -1;
+    }
+    if (info.exists) {
+        if (info.type == FILE_TYPE_DIRECTORY)
+            return 0;
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+                       __LINE__, path.c_str(), info.type);
+        return -1;
+    }
+    const int status = recursive ? FSMKDirP(path, nullptr, false, kDefaultFolderModeRequest)
+                                 : mkdir(path.c_str(), kDefaultFolderMode);
+    if (status != 0)
+        return -2;
+    if (FSChown(path) != 0)
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): chown(%s): %s\n", __LINE__,
+                       path.c_str(), strerror(errno));
+    return 0;
+}
+
+int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigned short mode) {
+    if (path.empty())
+        return -1;
+    std::unique_ptr<char, FreeDeleter> text(strdup(path.c_str()), &free);
+    if (!text)
+        return -1;
+    // An explicit mode is meant literally, so the umask is lifted meanwhile.
+    const bool explicit_mode = mode != kDefaultFolderModeRequest;
+    const mode_t saved_umask = explicit_mode ? umask(0) : 0;
+    size_t end = 0;
+    const int status = makeEachFolder(text.get(), replace_non_dirs, explicit_mode ? mode : kDefaultFolderMode, &end);
+    const int saved_errno = errno;
+    if (explicit_mode)
+        umask(saved_umask);
+    if (stop_at != nullptr)
+        *stop_at = const_cast<char*>(path.c_str()) + end;
+    errno = saved_errno;
+    return status;
+}
+
+int FSRemove(const ustring& path, bool) {
+    if (path.empty())
+        return -1;
+    _FILE_INFO_tag info;
+    if (GetFileInfo(path, info) != 0)
+        return -1;
+    if (!info.exists)
+        return 0;
+    // lstat typed a link as a link, so it is removed itself, never followed.
+    if (info.type != FILE_TYPE_DIRECTORY)
+        return removeEntry(path);
+    const WalkOutcome outcome =
+        forEachChild(path, [&](const ustring& name) { return FSRemove(childPath(path, name), false); });
+    if (outcome == WalkOutcome::NotOpened)
+        return 0;
+    if (outcome == WalkOutcome::Stopped)
+        return -3;
+    return removeEntry(path);
+}
+
+int FSMktemp(const ustring& dir, ustring& out) {
+    char name[fs_platform::kPathBufferSize];
+    const int length = snprintf(name, sizeof name, "%s/XXXXXX", dir.c_str());
+    int fd = -1;
+    if (length < 0 || static_cast<size_t>(length) >= sizeof name)
+        errno = ENAMETOOLONG;
+    else
+        fd = mkstemp(name);
+    if (fd < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, name,
+                       strerror(errno));
+        return -1;
+    }
+    if (syncAndClose(fd) != 0)
+        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): fsync(%s): %s\n", __LINE__, name,
+                       strerror(errno));
+    out = name;
+    if (chmod(name, kTempFileMode) != 0)
+        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): chmod(%s): %s\n", __LINE__, name,
+                       strerror(errno));
+    return 0;
+}
+
+int FSCreateTempPath(const ustring& dir, ustring& out) {
+    out = TmpNameGen::getInstance()->getTmpPath(dir);
+    return out.empty() ? -1 : 0;
+}
+
+int FSUTime(const ustring& path, long atime, long mtime) {
+    const struct utimbuf times = {atime, mtime};
+    return utime(path.c_str(), &times) == 0 ? 0 : -1;
+}
+
+int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
+    DIR* dir = opendir(path.c_str());
+    if (dir == nullptr) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n", __LINE__, path.c_str(),
+                       strerror(errno));
+        return -1;
+    }
+    handle.dir = dir;
+    handle.path = path;
+    handle.flags = flags;
+    return 0;
+}
+
+int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
+    // readdir on the walk's own stream is as safe as readdir_r and not deprecated.
+    errno = 0;
+    const struct dirent* next = readdir(handle.dir);
+    if (next == nullptr) {
+        if (errno == 0)
+            return 0;
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n", __LINE__,
+                       handle.path.c_str(), strerror(errno));
+        return -1;
+    }
+    // An entry that vanishes before it is examined keeps time and size 0.
+    _FILE_INFO_tag info;
+    if (handle.flags & FS_DIR_WITH_INFO) {
+        const ustring full_path = childPath(handle.path, next->d_name);
+        if (FSStat(full_path, info, true) < 0) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                           "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n", __LINE__,
+                           full_path.c_str());
+            return -1;
+        }
+    }
+    entry.mtime = info.mtime;
+    entry.size = info.size;
+    entry.name = next->d_name;
+    entry.type = typeFromDirentType(next->d_type);
+    return 1;
+}
+
+void FSCloseDir(DIR_HANDLE& handle) {
+    if (handle.dir != nullptr)
+        closedir(handle.dir);
+    handle.dir = nullptr;
+    handle.path.clear();
+}
+
+bool FSTimeEqual(long a, long b) {
+    return a == b;
+}
+
+bool isFileLocked(const ustring& path, int mode) {
+    if (access(path.c_str(), mode) == 0)
+        return false;
+    return errno == EACCES || errno == EPERM;
+}
+
+bool isMountPoint(const ustring& path) {
+    std::string name;
+    if (fs_platform::type_name(path.c_str(), &name) != 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n", __LINE__,
+                       path.c_str(), strerror(errno));
+        return false;
+    }
+    return name == "nfs" || name == "smbfs" || name == "afpfs";
+}
+
+bool IsMSDOS(const ustring& path) {
+    std::string name;
+    if (fs_platform::type_name(path.c_str(), &name) != 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n", __LINE__,
+                       path.c_str(), strerror(errno));
+        return false;
+    }
+    if (name != "msdos")
+        return false;
+    Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent,
+                   "[WARNING] file-op(%d): Detect a MSDOS platform for path '%s'.\n", __LINE__, path.c_str());
+    return true;
+}
