@@ -1,0 +1,158 @@
+#include "config.h"
+
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace {
+
+// Lines are read in pieces of at most LINE_BUFFER_SIZE - 1 bytes, as fgets
+// would with a buffer of this size; a longer line is parsed piece by piece.
+const std::size_t LINE_BUFFER_SIZE = 8192;
+
+enum LineResult { LINE_IGNORED, LINE_ENTRY, LINE_SYNTAX_ERROR };
+
+using FilePtr = std::unique_ptr<FILE, decltype(&fclose)>;
+
+// Explicit byte tests rather than <cctype>: the launcher switches to the
+// user's locale at start-up, and the syntax must not change with it.
+bool is_blank(unsigned char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+bool is_control(unsigned char c)
+{
+    return c < 0x20 || c == 0x7f;
+}
+
+bool is_key_char(unsigned char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-'
+        || c == '.' || c == '_';
+}
+
+std::size_t skip_blanks(std::string_view line, std::size_t pos)
+{
+    while (pos < line.size() && is_blank(line[pos]))
+        ++pos;
+    return pos;
+}
+
+std::size_t skip_key(std::string_view line, std::size_t pos)
+{
+    while (pos < line.size() && is_key_char(line[pos]))
+        ++pos;
+    return pos;
+}
+
+// Reads like fgets into a buffer of LINE_BUFFER_SIZE bytes, but keeps the
+// count of bytes read. NUL bytes are therefore ordinary (control) bytes of
+// the line rather than a silent end of it, so a file holding them fails the
+// read instead of yielding truncated values. False at end of file.
+bool read_piece(FILE* file, std::string& piece)
+{
+    piece.clear();
+    while (piece.size() < LINE_BUFFER_SIZE - 1) {
+        const int c = getc(file);
+        if (c == EOF)
+            break;
+        piece.push_back(static_cast<char>(c));
+        if (c == '\n')
+            break;
+    }
+    return !piece.empty();
+}
+
+// A quoted value ends at the same quote and may not hold control bytes; a
+// bare value ends at the first blank or control byte. On success pos is
+// left just after the value.
+bool parse_value(std::string_view line, std::size_t& pos, std::string_view& value)
+{
+    const char quote = line[pos];
+    if (quote != '"' && quote != '\'') {
+        const std::size_t start = pos;
+        while (pos < line.size() && line[pos] != ' ' && !is_control(line[pos]))
+            ++pos;
+        value = line.substr(start, pos - start);
+        return true;
+    }
+    const std::size_t start = pos + 1;
+    for (pos = start; pos < line.size() && line[pos] != quote; ++pos) {
+        if (is_control(line[pos]))
+            return false;
+    }
+    if (pos == line.size())
+        return false;
+    value = line.substr(start, pos - start);
+    ++pos;
+    return true;
+}
+
+LineResult parse_line(std::string_view line, std::string_view& key, std::string_view& value)
+{
+    std::size_t pos = skip_blanks(line, 0);
+    const std::size_t key_end = skip_key(line, pos);
+    if (key_end == line.size() || line[key_end] == '#')
+        return LINE_IGNORED;
+    key = line.substr(pos, key_end - pos);
+
+    pos = skip_blanks(line, key_end);
+    if (pos == line.size() || line[pos] != '=')
+        return LINE_SYNTAX_ERROR;
+    pos = skip_blanks(line, pos + 1);
+    if (pos == line.size() || !parse_value(line, pos, value))
+        return LINE_SYNTAX_ERROR;
+
+    pos = skip_blanks(line, pos);
+    if (pos < line.size() && line[pos] != '#')
+        return LINE_SYNTAX_ERROR;
+    return LINE_ENTRY;
+}
+
+ustring to_ustring(std::string_view text)
+{
+    ustring result;
+    result.assign(text.data(), text.size());
+    return result;
+}
+
+}  // namespace
+
+int Config::read(const ustring& path)
+{
+    if (path.empty())
+        return -1;
+    FilePtr file(fopen(path.c_str_utf8(), "r"), &fclose);
+    if (!file)
+        return -1;
+
+    std::string piece;
+    while (read_piece(file.get(), piece)) {
+        std::string_view key;
+        std::string_view value;
+        const LineResult result = parse_line(piece, key, value);
+        if (result == LINE_SYNTAX_ERROR) {
+            entries.clear();
+            return -1;
+        }
+        if (result == LINE_ENTRY)
+            entries[to_ustring(key)] = to_ustring(value);
+    }
+    return 0;
+}
+
+int Config::get_int(const ustring& key)
+{
+    // Values never hold NUL bytes (they are control bytes), so the C string
+    // is the whole value.
+    const long number = std::strtol(entries[key].c_str_utf8(), nullptr, 10);
+    if (number > INT_MAX)
+        return INT_MAX;
+    if (number < INT_MIN)
+        return INT_MIN;
+    return static_cast<int>(number);
+}
