@@ -35,6 +35,14 @@ public:
     static int Rotate();
 
 private:
+    static void load_levels(const ustring& level_file);
+    static int threshold_of(const ustring& component);
+    static void use_stream(FILE* stream);
+    static int open_file(const ustring& path, int rotation_slots);
+    static int64_t write_message(const char* format, va_list args);
+    static int64_t write_stamped(const char* format, va_list args);
+    static void account_written(int64_t written);
+
     static Type log_type;
     static int32_t log_size;
     static int32_t rotate_cnt;
