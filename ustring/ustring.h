@@ -1,5 +1,5 @@
-#ifndef USTRING_H
-#define USTRING_H
+#ifndef DROVIA_USTRING_USTRING_H
+#define DROVIA_USTRING_USTRING_H
 
 #include <iosfwd>
 #include <string>
@@ -12,7 +12,7 @@
 // profile, so the rule is deliberately not geometric.
 class ustring {
 public:
-    static const unsigned long npos = ~0UL;
+    static constexpr unsigned long npos = ~0UL;
 
     enum normalization_form { NFC = 0, NFD = 1 };
 
@@ -126,6 +126,11 @@ public:
     int convert_from_wdata();
 
 private:
+    ustring& append_utf8(const char* bytes, unsigned long count);
+    ustring& append_utf16(const unsigned short* units, unsigned long count);
+    void make_wdata_current() const;
+    void keep_bytes(unsigned long offset, unsigned long count);
+
     char* data;
     unsigned long data_len;
     unsigned long data_capacity;
@@ -152,4 +157,4 @@ void swap(ustring& a, ustring& b);
 std::ostream& operator<<(std::ostream& os, const ustring& s);
 std::istream& operator>>(std::istream& is, ustring& s);
 
-#endif  // USTRING_H
+#endif  // DROVIA_USTRING_USTRING_H
