@@ -61,7 +61,7 @@ unsigned long size_with_terminator(unsigned long length, unsigned long extra)
 template <typename Unit>
 bool points_into(const Unit* p, const Unit* buffer, unsigned long capacity)
 {
-    const std::less<const Unit*> before;
+    std::less<const Unit*> before;
     return !before(p, buffer) && before(p, buffer + capacity);
 }
 
@@ -559,48 +559,96 @@ unsigned long ustring::find_last_not_of(const char* set, unsigned long pos) cons
     return text_of(*this).find_last_not_of(set, std::min(pos, data_len - 1));
 }
 
-unsigned long ustring::find(const std::string& p, unsigned long pos) const { return find(p.c_str(), pos); }
-unsigned long ustring::find(const ustring& p, unsigned long pos) const { return find(p.c_str(), pos); }
+unsigned long ustring::find(const std::string& pattern, unsigned long pos) const
+{
+    return find(pattern.c_str(), pos);
+}
+
+unsigned long ustring::find(const ustring& pattern, unsigned long pos) const
+{
+    return find(pattern.c_str(), pos);
+}
+
 unsigned long ustring::find(char c, unsigned long pos) const
 {
     const char pattern[] = {c, '\0'};
     return find(pattern, pos);
 }
 
-unsigned long ustring::rfind(const std::string& p, unsigned long pos) const { return rfind(p.c_str(), pos); }
-unsigned long ustring::rfind(const ustring& p, unsigned long pos) const { return rfind(p.c_str(), pos); }
+unsigned long ustring::rfind(const std::string& pattern, unsigned long pos) const
+{
+    return rfind(pattern.c_str(), pos);
+}
+
+unsigned long ustring::rfind(const ustring& pattern, unsigned long pos) const
+{
+    return rfind(pattern.c_str(), pos);
+}
+
 unsigned long ustring::rfind(char c, unsigned long pos) const
 {
     const char pattern[] = {c, '\0'};
     return rfind(pattern, pos);
 }
 
-unsigned long ustring::find_first_of(const std::string& s, unsigned long pos) const { return find_first_of(s.c_str(), pos); }
-unsigned long ustring::find_first_of(const ustring& s, unsigned long pos) const { return find_first_of(s.c_str(), pos); }
+unsigned long ustring::find_first_of(const std::string& set, unsigned long pos) const
+{
+    return find_first_of(set.c_str(), pos);
+}
+
+unsigned long ustring::find_first_of(const ustring& set, unsigned long pos) const
+{
+    return find_first_of(set.c_str(), pos);
+}
+
 unsigned long ustring::find_first_of(char c, unsigned long pos) const
 {
     const char set[] = {c, '\0'};
     return find_first_of(set, pos);
 }
 
-unsigned long ustring::find_first_not_of(const std::string& s, unsigned long pos) const { return find_first_not_of(s.c_str(), pos); }
-unsigned long ustring::find_first_not_of(const ustring& s, unsigned long pos) const { return find_first_not_of(s.c_str(), pos); }
+unsigned long ustring::find_first_not_of(const std::string& set, unsigned long pos) const
+{
+    return find_first_not_of(set.c_str(), pos);
+}
+
+unsigned long ustring::find_first_not_of(const ustring& set, unsigned long pos) const
+{
+    return find_first_not_of(set.c_str(), pos);
+}
+
 unsigned long ustring::find_first_not_of(char c, unsigned long pos) const
 {
     const char set[] = {c, '\0'};
     return find_first_not_of(set, pos);
 }
 
-unsigned long ustring::find_last_of(const std::string& s, unsigned long pos) const { return find_last_of(s.c_str(), pos); }
-unsigned long ustring::find_last_of(const ustring& s, unsigned long pos) const { return find_last_of(s.c_str(), pos); }
+unsigned long ustring::find_last_of(const std::string& set, unsigned long pos) const
+{
+    return find_last_of(set.c_str(), pos);
+}
+
+unsigned long ustring::find_last_of(const ustring& set, unsigned long pos) const
+{
+    return find_last_of(set.c_str(), pos);
+}
+
 unsigned long ustring::find_last_of(char c, unsigned long pos) const
 {
     const char set[] = {c, '\0'};
     return find_last_of(set, pos);
 }
 
-unsigned long ustring::find_last_not_of(const std::string& s, unsigned long pos) const { return find_last_not_of(s.c_str(), pos); }
-unsigned long ustring::find_last_not_of(const ustring& s, unsigned long pos) const { return find_last_not_of(s.c_str(), pos); }
+unsigned long ustring::find_last_not_of(const std::string& set, unsigned long pos) const
+{
+    return find_last_not_of(set.c_str(), pos);
+}
+
+unsigned long ustring::find_last_not_of(const ustring& set, unsigned long pos) const
+{
+    return find_last_not_of(set.c_str(), pos);
+}
+
 unsigned long ustring::find_last_not_of(char c, unsigned long pos) const
 {
     const char set[] = {c, '\0'};
