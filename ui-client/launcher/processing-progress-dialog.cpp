@@ -1,0 +1,44 @@
+#include "processing-progress-dialog.h"
+
+#include <QFont>
+#include <QIcon>
+#include <QString>
+
+#include "cloud-service.h"
+#include "strtable.h"
+
+namespace {
+
+constexpr int kTitleStrId = 202;      // app_name
+constexpr int kPreparingStrId = 393;  // desc_drov_env_preparing
+constexpr int kDialogWidth = 400;
+constexpr char kIconFile[] = "/images/ico_72_drovia.png";
+constexpr char kStyleSheet[] =
+    " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ";
+
+}  // namespace
+
+ProcessingProgressDialog::ProcessingProgressDialog()
+    : QProgressDialog(nullptr, Qt::WindowFlags())
+{
+    const QFont font(QStringLiteral("Arial"), -1, -1, false);
+    const QString iconPath =
+        QString::fromUtf8(Service::GetRootDroviaResourceInstallPath().c_str_utf8()) +
+        QLatin1String(kIconFile);
+
+    setWindowTitle(StrTable::LoadStr(kTitleStrId));
+    setWindowIcon(QIcon(iconPath));
+    // Only a title bar with its system menu: no minimise, maximise or close
+    // button, since the upgrade cannot be interrupted halfway.
+    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+    // Setting the value starts the toolkit's show timer, so a slow upgrade
+    // becomes visible even before the Launcher shows the dialog itself.
+    setValue(0);
+    setRange(0, 100);
+    setLabelText(StrTable::LoadStr(kPreparingStrId));
+    setFont(font);
+    setFixedWidth(kDialogWidth);
+    setModal(true);
+    setWindowModality(Qt::WindowModal);
+    setStyleSheet(QLatin1String(kStyleSheet));
+}
