@@ -1,0 +1,217 @@
+#include "extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <iostream>
+#include <memory>
+
+#include "log.h"
+#include "notify-adapter.h"
+#include "strtable.h"
+
+namespace {
+
+const char kLogComponent[] = "extractor_debug";
+const size_t kReadBlockSize = 10240;
+const int kPreparingLabelId = 393;  // "Drovia is initializing..."
+
+// Replace files in place, refuse ".." paths, keep macOS metadata where the
+// library supports it; permissions, times and owners stay at the defaults.
+const int kDiskWriteOptions =
+    ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+
+struct ReaderFree {
+    void operator()(archive* reader) const { archive_read_free(reader); }
+};
+struct WriterFree {
+    void operator()(archive* writer) const { archive_write_free(writer); }
+};
+using ReadHandle = std::unique_ptr<archive, ReaderFree>;
+using WriteHandle = std::unique_ptr<archive, WriterFree>;
+
+// The library leaves the text unset when a failure came from the other handle.
+const char* ErrorText(archive* handle)
+{
+    const char* text = archive_error_string(handle);
+    return text ? text : "";
+}
+
+// Accepts whatever the linked library can read, not only the package's own format.
+int OpenForReading(archive* reader, const ustring& path)
+{
+    if (archive_read_support_filter_all(reader) != ARCHIVE_OK ||
+        archive_read_support_format_all(reader) != ARCHIVE_OK)
+        return ARCHIVE_FATAL;
+    return archive_read_open_filename(reader, path.c_str_utf8(), kReadBlockSize);
+}
+
+// The opening shared by Count and List; null after logging why.
+ReadHandle OpenEntryWalk(const ustring& archive_path, const ustring& dest_path)
+{
+    if (archive_path.empty() || dest_path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
+        return nullptr;
+    }
+    ReadHandle reader(archive_read_new());
+    if (!reader) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
+        return nullptr;
+    }
+    if (OpenForReading(reader.get(), archive_path) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n",
+                       __LINE__, ErrorText(reader.get()));
+        return nullptr;
+    }
+    return reader;
+}
+
+// Writes one entry below dest_path. The name is only prefixed: a leading "/"
+// still lands below dest_path, and ".." is left for the writer to refuse.
+int WriteEntry(archive* reader, archive* writer, archive_entry* entry, const ustring& dest_path)
+{
+    const char* name = archive_entry_pathname(entry);
+    if (!name) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+        return -1;
+    }
+    const ustring target = dest_path + "/" + name;
+    archive_entry_set_pathname(entry, target.c_str_utf8());
+    if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
+                       ErrorText(writer));
+        return -1;
+    }
+    return 0;
+}
+
+// Progress counts entries: each one is reported once its data is on disk.
+int ExtractEntries(archive* reader, archive* writer, const ustring& dest_path, int total)
+{
+    for (int current = 1;; ++current) {
+        archive_entry* entry = nullptr;
+        const int status = archive_read_next_header(reader, &entry);
+        if (status == ARCHIVE_EOF)
+            return 0;
+        if (status != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                           "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n",
+                           __LINE__, ErrorText(reader));
+            return -1;
+        }
+        if (WriteEntry(reader, writer, entry, dest_path) != 0)
+            return -1;
+        Notify_Adapter::GetInstance()->UpdateProgress(total, current);
+        if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n",
+                           __LINE__, ErrorText(writer));
+            return -1;
+        }
+    }
+}
+
+}  // namespace
+
+int Extractor::Extract()
+{
+    if (archive_path.empty() || dest_path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
+                   "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
+                   archive_path.c_str_utf8(), dest_path.c_str_utf8());
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingLabelId));
+
+    // Refusing an empty archive here keeps the progress total at 1 or more.
+    const int total = Count();
+    if (total < 1) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n",
+                       __LINE__, total);
+        return -1;
+    }
+
+    ReadHandle reader(archive_read_new());
+    WriteHandle writer(archive_write_disk_new());
+    // Setting options only fails on a broken handle, so it counts as allocation.
+    if (!reader || !writer ||
+        archive_write_disk_set_options(writer.get(), kDiskWriteOptions) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        return -1;
+    }
+    if (OpenForReading(reader.get(), archive_path) != ARCHIVE_OK) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
+                       archive_path.c_str_utf8(), ErrorText(reader.get()));
+        return -1;
+    }
+    return ExtractEntries(reader.get(), writer.get(), dest_path, total);
+}
+
+int Extractor::Count()
+{
+    ReadHandle reader = OpenEntryWalk(archive_path, dest_path);
+    if (!reader)
+        return -1;
+    int entries = 0;
+    archive_entry* entry = nullptr;
+    // A bad header ends the count like the end does; Extract reports it.
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        ++entries;
+        // A skip that fails leaves the reader failed, which ends the loop.
+        archive_read_data_skip(reader.get());
+    }
+    return entries;
+}
+
+int Extractor::List()
+{
+    ReadHandle reader = OpenEntryWalk(archive_path, dest_path);
+    if (!reader)
+        return -1;
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        if (const char* name = archive_entry_pathname(entry))
+            std::cout << name << std::endl;
+        archive_read_data_skip(reader.get());
+    }
+    return 0;
+}
+
+int Extractor::copy_data(archive* reader, archive* writer)
+{
+    if (!reader || !writer) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
+        return -1;
+    }
+    for (;;) {
+        const void* buffer = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        const int status = archive_read_data_block(reader, &buffer, &size, &offset);
+        if (status == ARCHIVE_EOF)
+            return 0;
+        if (status != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n",
+                           __LINE__, ErrorText(reader));
+            return -1;
+        }
+        if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n",
+                           __LINE__, ErrorText(writer));
+            return -1;
+        }
+    }
+}
