@@ -1,0 +1,223 @@
+#include "cloud-service.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QSettings>
+#include <QString>
+
+#include <cstdio>
+#include <utility>
+
+#include "extractor.h"
+#include "file-op.h"
+#include "log.h"
+
+namespace {
+
+const char kResourcesFolder[] = "/Contents/Resources";
+const char kVersionFileName[] = "INFO";
+const char kVersionGroup[] = "Version";
+const char kPackageArchive[] = "/package/drovia.vpk";
+const char kAgedAppFolder[] = "/app";
+const char kBackupSuffix[] = "_tmp";
+const int kBackupAttempts = 10;
+const int kBackupNumberSize = 8;
+
+QString ToQString(const ustring& text)
+{
+    return QString::fromUtf8(text.c_str_utf8());
+}
+
+ustring ToUstring(const QString& text)
+{
+    return ustring(text.toUtf8().toStdString());
+}
+
+// Fills only the fields whose key the file has, so a missing or unreadable
+// file leaves every field as it was. The file is never written back.
+void ReadVersionFile(const ustring& path, ustring& major, ustring& minor, ustring& build,
+                     ustring& icon_overlay)
+{
+    QSettings settings(ToQString(path), QSettings::IniFormat);
+    settings.beginGroup(QLatin1String(kVersionGroup));
+    const std::pair<const char*, ustring*> keys[] = {
+        {"major_version", &major},
+        {"minor_version", &minor},
+        {"build_version", &build},
+        {"icon_overlay_version", &icon_overlay},
+    };
+    for (const auto& [key, field] : keys) {
+        if (settings.contains(QLatin1String(key)))
+            *field = ToUstring(settings.value(QLatin1String(key)).toString());
+    }
+}
+
+// Index 0 has no number, so the first backup of Drovia.app is Drovia.app_tmp.
+ustring GetAppBackupDir(const ustring& app, int n)
+{
+    const ustring dir = app + kBackupSuffix;
+    if (n == 0)
+        return dir;
+    char number[kBackupNumberSize];
+    if (snprintf(number, sizeof(number), "%d", n) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, Service::kLogComponent,
+                       "[ERROR] cloud-service(%d): snprintf failed (continuing without postfix)",
+                       __LINE__);
+        number[0] = '\0';
+    }
+    return dir + number;
+}
+
+// Moves app to the first backup name the file layer accepts. Returns the
+// index used and sets backup, or -1 when every name was refused.
+int MoveAppAside(const ustring& app, ustring& backup)
+{
+    for (int index = 0; index < kBackupAttempts; ++index) {
+        backup = GetAppBackupDir(app, index);
+        if (FSRename(app, backup, false) == 0)
+            return index;
+        Logger::LogMsg(Logger::LEVEL_ERROR, Service::kLogComponent,
+                       "[ERROR] cloud-service(%d): failed to backup app from '%s' -> '%s'\n",
+                       __LINE__, app.c_str_utf8(), backup.c_str_utf8());
+    }
+    Logger::LogMsg(Logger::LEVEL_ERROR, Service::kLogComponent,
+                   "[ERROR] cloud-service(%d): failed to backup app from '%s' -> '%s' at max "
+                   "retries, exiting\n",
+                   __LINE__, app.c_str_utf8(), backup.c_str_utf8());
+    return -1;
+}
+
+// Lower indices go too: they are backups that earlier runs could not clean up.
+void RemoveBackups(const ustring& app, int last_index)
+{
+    for (int index = 0; index <= last_index; ++index)
+        FSRemove(GetAppBackupDir(app, index), false);
+}
+
+}  // namespace
+
+Service::~Service() = default;
+
+void Service::SetTimeout(int value)
+{
+    timeout = value;
+}
+
+ustring Service::GetUserInstallPath()
+{
+    return ToUstring(QDir::homePath());
+}
+
+ustring Service::GetRootDroviaInstallPath()
+{
+    return ToUstring(QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" + "../.."));
+}
+
+ustring Service::GetRootDroviaResourceInstallPath()
+{
+    return GetRootDroviaInstallPath() + kResourcesFolder;
+}
+
+ustring Service::GetUserDroviaInstallPath()
+{
+    return GetUserInstallPath() + "/" + ".Drovia";
+}
+
+ustring Service::GetUserDroviaAppInstallPath()
+{
+    return GetUserDroviaInstallPath() + "/" + "Drovia.app";
+}
+
+void Service::LoadTargetVersion()
+{
+    const ustring path = GetRootDroviaResourceInstallPath() + "/" + kVersionFileName;
+    ReadVersionFile(path, target_major_version, target_minor_version, target_build_version,
+                    target_icon_overlay_version);
+    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
+                   "[INFO] cloud-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
+                   target_major_version.c_str_utf8(), target_minor_version.c_str_utf8(),
+                   target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
+}
+
+void Service::LoadSourceVersion()
+{
+    const ustring path =
+        GetUserDroviaAppInstallPath() + kResourcesFolder + "/" + kVersionFileName;
+    if (!IsFileExist(path, false)) {
+        Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
+                       "[INFO] cloud-service(%d): source does not exist\n", __LINE__);
+        return;
+    }
+    ReadVersionFile(path, source_major_version, source_minor_version, source_build_version,
+                    source_icon_overlay_version);
+    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
+                   "[INFO] cloud-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
+                   source_major_version.c_str_utf8(), source_minor_version.c_str_utf8(),
+                   source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
+}
+
+int Service::ExtractPackage()
+{
+    const ustring archive = GetRootDroviaResourceInstallPath() + kPackageArchive;
+    const ustring destination = GetUserDroviaAppInstallPath();
+    if (FSMKDir(destination, true) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] cloud-service(%d): failed to create folder: '%s'\n", __LINE__,
+                       destination.c_str_utf8());
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
+                   "[INFO] cloud-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
+                   archive.c_str_utf8(), destination.c_str_utf8());
+    Extractor extractor;
+    extractor.archive_path = archive;
+    extractor.dest_path = destination;
+    return extractor.Extract();
+}
+
+int Service::PrepareUserEnv()
+{
+    const ustring app = user_app_path;
+    ustring backup;
+    int backup_index = 0;
+    if (IsFileExist(app, false)) {
+        backup_index = MoveAppAside(app, backup);
+        if (backup_index < 0)
+            return -1;
+    }
+
+    if (ExtractPackage() == 0) {
+        Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
+                       "[INFO] cloud-service(%d): user installation is ready, removing backup "
+                       "app\n",
+                       __LINE__);
+        RemoveBackups(app, backup_index);
+        return 0;
+    }
+
+    if (backup.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] cloud-service(%d): Failed to extract package, and no old "
+                       "installation to rollback\n",
+                       __LINE__);
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                   "[ERROR] cloud-service(%d): Failed to extract package, rollback to old "
+                   "installation\n",
+                   __LINE__);
+    // A rollback that fails half-way has no better fallback than what the
+    // file layer leaves; the caller already learns that the upgrade failed.
+    FSRemove(app, false);
+    FSRename(backup, app, false);
+    return -1;
+}
+
+void Service::RemoveAgedFolders()
+{
+    const ustring aged = GetUserDroviaInstallPath() + kAgedAppFolder;
+    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
+                   "[INFO] cloud-service(%d): removing aged app folder %s\n", __LINE__,
+                   aged.c_str_utf8());
+    FSRemove(aged, false);
+}

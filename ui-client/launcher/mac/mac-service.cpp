@@ -1,0 +1,173 @@
+#include "mac/mac-service.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QString>
+
+#include <cerrno>
+#include <chrono>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <thread>
+
+#include "config.h"
+#include "file-op.h"
+#include "log.h"
+#include "mac/client-launch.h"
+
+namespace {
+
+const int kDefaultTimeout = 10000;
+const char kPidFileName[] = "/ui.pid";
+const char kPidKey[] = "pid";
+const int kExitProbes = 5;
+const unsigned kProbeIntervalSeconds = 1;
+
+// Build numbers read like atoi, but clamped instead of overflowing.
+int BuildNumber(const ustring& text)
+{
+    const long value = std::strtol(text.c_str_utf8(), nullptr, 10);
+    if (value > INT_MAX)
+        return INT_MAX;
+    if (value < INT_MIN)
+        return INT_MIN;
+    return static_cast<int>(value);
+}
+
+// 0 when text names no single process: kill() with 0 or a negative pid
+// addresses a whole process group, the launcher's own included.
+pid_t ClientPid(const ustring& text)
+{
+    const long value = std::strtol(text.c_str_utf8(), nullptr, 10);
+    if (value <= 0 || value > INT_MAX)
+        return 0;
+    return static_cast<pid_t>(value);
+}
+
+}  // namespace
+
+MacService::MacService()
+{
+    timeout = kDefaultTimeout;
+    user_app_path = GetUserDroviaAppInstallPath();
+}
+
+MacService::~MacService() = default;
+
+bool MacService::PerUserBinPathExist()
+{
+    const ustring executable = user_app_path + "/" + kBundleClientExecutable;
+    return access(executable.c_str_utf8(), F_OK) == 0;
+}
+
+void MacService::PreUpgrade()
+{
+    LoadTargetVersion();
+    LoadSourceVersion();
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
+                   "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
+                   source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
+                   "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
+                   target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
+}
+
+// Only the build number decides; a missing client executable forces a
+// reinstall even of an older package.
+bool MacService::IsNeedUpgrade()
+{
+    const int source = BuildNumber(source_build_version);
+    const int target = BuildNumber(target_build_version);
+    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
+                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
+                   __LINE__, source, target);
+    const bool client_present = PerUserBinPathExist();
+    return target > source || !client_present;
+}
+
+int MacService::HandlePackageUpgrade()
+{
+    if (PerUserBinPathExist()) {
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
+                       "[DEBUG] mac/mac-service(%d): local appdata exist\n", __LINE__);
+        StopService();
+    }
+    return PrepareUserEnv();
+}
+
+void MacService::StopService()
+{
+    const ustring pid_file = GetUserDroviaInstallPath() + kPidFileName;
+    Config config;
+    if (!IsFileExist(pid_file, false)) {
+        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
+                       "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to "
+                       "terminate\n",
+                       __LINE__, pid_file.c_str_utf8());
+        return;
+    }
+    if (config.read(pid_file) != 0) {
+        Logger::LogMsg(Logger::LEVEL_NOTE, kLogComponent,
+                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n",
+                       __LINE__, pid_file.c_str_utf8());
+        return;
+    }
+    const pid_t pid = ClientPid(config.entries[kPidKey]);
+    if (pid <= 0)
+        return;
+    TerminateClient(pid);
+}
+
+// SIGTERM first so the client can save its state; SIGKILL only if it is still
+// there after the probes. A failed SIGKILL leaves nothing else to try.
+void MacService::TerminateClient(pid_t pid)
+{
+    if (SendSignal(pid, SIGTERM) != 0) {
+        const int error = errno;
+        if (error == ESRCH)
+            return;
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] mac/mac-service(%d): kill: %s (%d)\n", __LINE__,
+                       strerror(error), error);
+    }
+    if (!WaitForExit(pid))
+        SendSignal(pid, SIGKILL);
+}
+
+// True once the process is gone; the first probe comes right after SIGTERM.
+bool MacService::WaitForExit(pid_t pid)
+{
+    for (int probe = 0; probe < kExitProbes; ++probe) {
+        if (SendSignal(pid, 0) != 0 && errno == ESRCH)
+            return true;
+        PauseSeconds(kProbeIntervalSeconds);
+    }
+    return false;
+}
+
+int MacService::SendSignal(pid_t pid, int signal_number)
+{
+    return kill(pid, signal_number);
+}
+
+void MacService::PauseSeconds(unsigned seconds)
+{
+    std::this_thread::sleep_for(std::chrono::seconds(seconds));
+}
+
+int MacService::LaunchPerUserBin()
+{
+    const QString bundle = QDir::homePath() + "/.Drovia/Drovia.app";
+    return StartClientBundle(bundle) ? 0 : -1;
+}
+
+void MacService::PostUpgrade()
+{
+    if (LaunchPerUserBin() < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] mac/mac-service(%d): Failed to launch Drovia UI\n", __LINE__);
+    }
+}
