@@ -83,13 +83,14 @@ void logResolveFailure(fs_platform::ResolveStep step, int status) {
                        __LINE__, status);
 }
 
-// The exact half of IsFileExist: nfc_path must already be the canonical path.
-bool isCanonicalSpelling(const ustring& nfc_path) {
+// The exact half of IsFileExist: the path, in NFC, must already be the
+// canonical path. on_disk is the spelling that reached the file.
+bool isCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
     Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): Input file path = [%s].\n",
                    __LINE__, nfc_path.c_str());
     char canonical[fs_platform::kPathBufferSize] = {};
     fs_platform::ResolveStep failed_step;
-    const int status = fs_platform::canonical_path(nfc_path.c_str(), canonical, &failed_step);
+    const int status = fs_platform::canonical_path(on_disk.c_str(), canonical, &failed_step);
     if (status != 0) {
         logResolveFailure(failed_step, status);
         return false;
@@ -124,9 +125,12 @@ int openForCopy(const ustring& path, int flags) {
     return fd;
 }
 
-// A full device is told apart from other write errors so callers can say so.
-int writeFailureCode() {
-    return errno == ENOSPC ? -2 : -1;
+// Logs a failed write of the copy target. A full device is told apart from
+// other write errors so that callers can say so.
+int reportWriteFailure(int error) {
+    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
+                   strerror(error), error);
+    return error == ENOSPC ? -2 : -1;
 }
 
 // Writes all of data, continuing after short writes; 0, -1 or -2.
@@ -135,11 +139,8 @@ int writeChunk(int fd, const char* data, ssize_t length) {
         const ssize_t written = write(fd, data, static_cast<size_t>(length));
         if (written < 0 && errno == EINTR)
             continue;
-        if (written < 1) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
-                           __LINE__, strerror(errno), errno);
-            return writeFailureCode();
-        }
+        if (written < 1)
+            return reportWriteFailure(errno);
         data += written;
         length -= written;
     }
@@ -193,9 +194,12 @@ int syncAndClose(int fd) {
 int finishCopyTarget(int dst_fd, int copy_status) {
     if (syncAndClose(dst_fd) == 0 || copy_status != 0)
         return copy_status;
-    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
-                   __LINE__, strerror(errno), errno);
-    return writeFailureCode();
+    return reportWriteFailure(errno);
+}
+
+// Removes one file, link or empty folder as a step of a move or delete.
+int removeEntry(const ustring& path) {
+    return remove(path.c_str()) == 0 ? 0 : -3;
 }
 
 int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact);
@@ -241,7 +245,7 @@ int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact) 
     });
     if (outcome != WalkOutcome::Finished)
         return -3;
-    return remove(src.c_str()) == 0 ? 0 : -3;
+    return removeEntry(src);
 }
 
 // Gives a folder made by FSMKDirP to the configured owner; nothing to do
@@ -296,10 +300,6 @@ int makeEachFolder(char* text, bool replace_non_dirs, mode_t mode, size_t* end) 
     }
 }
 
-int removeEntry(const ustring& path) {
-    return remove(path.c_str()) == 0 ? 0 : -3;
-}
-
 }  // namespace
 
 bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
@@ -326,9 +326,17 @@ int FSChown(const ustring& path) {
 
 bool IsFileExist(const ustring& path, bool exact) {
     const ustring nfc_path = path.normalize(ustring::NFC);
-    if (nfc_path.empty() || access(nfc_path.c_str(), F_OK) != 0)
+    if (nfc_path.empty())
         return false;
-    return !exact || isCanonicalSpelling(nfc_path);
+    // Names compare in NFC, but a file system that keeps names byte for byte
+    // finds a decomposed name only as it was typed.
+    const ustring* spelling = &nfc_path;
+    if (access(nfc_path.c_str(), F_OK) != 0) {
+        if (nfc_path == path || access(path.c_str(), F_OK) != 0)
+            return false;
+        spelling = &path;
+    }
+    return !exact || isCanonicalSpelling(*spelling, nfc_path);
 }
 
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
@@ -403,11 +411,12 @@ int FSRename(const ustring& src, const ustring& dst, bool exact) {
         return -2;
     if (rename(src.c_str(), dst.c_str()) == 0)
         return 0;
-    if (errno == ENAMETOOLONG)
-        return -100;
-    if (errno != EXDEV)
-        return -3;
-    return moveAcrossDevices(src, dst, info.type, exact);
+    const int error = errno;
+    if (error == EXDEV)
+        return moveAcrossDevices(src, dst, info.type, exact);
+    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSRename: rename(%s, %s): %s (%d)\n",
+                   __LINE__, src.c_str(), dst.c_str(), strerror(error), error);
+    return error == ENAMETOOLONG ? -100 : -3;
 }
 
 int FSMKDir(const ustring& path, bool recursive) {
@@ -415,22 +424,26 @@ int FSMKDir(const ustring& path, bool recursive) {
         return -1;
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n",
-                       __LINE__, path.c_str());
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
+                       "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n", __LINE__, path.c_str());
         return -1;
     }
     if (info.exists) {
         if (info.type == FILE_TYPE_DIRECTORY)
             return 0;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
-                       __LINE__, path.c_str(), info.type);
+        Logger::LogMsg(
+            Logger::LEVEL_ERROR, kLogComponent,
+            "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+            __LINE__, path.c_str(), info.type);
         return -1;
     }
     const int status = recursive ? FSMKDirP(path, nullptr, false, kDefaultFolderModeRequest)
                                  : mkdir(path.c_str(), kDefaultFolderMode);
-    if (status != 0)
+    if (status != 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSMKDir: mkdir(%s): %s (%d)\n",
+                       __LINE__, path.c_str(), strerror(errno), errno);
         return -2;
+    }
     if (FSChown(path) != 0)
         Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): chown(%s): %s\n", __LINE__,
                        path.c_str(), strerror(errno));
@@ -447,7 +460,8 @@ int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigne
     const bool explicit_mode = mode != kDefaultFolderModeRequest;
     const mode_t saved_umask = explicit_mode ? umask(0) : 0;
     size_t end = 0;
-    const int status = makeEachFolder(text.get(), replace_non_dirs, explicit_mode ? mode : kDefaultFolderMode, &end);
+    const mode_t folder_mode = explicit_mode ? mode : kDefaultFolderMode;
+    const int status = makeEachFolder(text.get(), replace_non_dirs, folder_mode, &end);
     const int saved_errno = errno;
     if (explicit_mode)
         umask(saved_umask);
@@ -478,25 +492,27 @@ int FSRemove(const ustring& path, bool) {
 }
 
 int FSMktemp(const ustring& dir, ustring& out) {
-    char name[fs_platform::kPathBufferSize];
-    const int length = snprintf(name, sizeof name, "%s/XXXXXX", dir.c_str());
+    const ustring name_template = dir + "/XXXXXX";
+    char name[fs_platform::kPathBufferSize] = {};
     int fd = -1;
-    if (length < 0 || static_cast<size_t>(length) >= sizeof name)
+    if (name_template.length() >= sizeof name) {
         errno = ENAMETOOLONG;
-    else
+    } else {
+        memcpy(name, name_template.c_str(), name_template.length());
         fd = mkstemp(name);
+    }
     if (fd < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__, name,
-                       strerror(errno));
+        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__,
+                       name_template.c_str(), strerror(errno));
         return -1;
     }
     if (syncAndClose(fd) != 0)
-        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): fsync(%s): %s\n", __LINE__, name,
-                       strerror(errno));
+        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): fsync(%s): %s\n", __LINE__,
+                       name, strerror(errno));
     out = name;
     if (chmod(name, kTempFileMode) != 0)
-        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): chmod(%s): %s\n", __LINE__, name,
-                       strerror(errno));
+        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): chmod(%s): %s\n", __LINE__,
+                       name, strerror(errno));
     return 0;
 }
 
@@ -514,8 +530,8 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
     DIR* dir = opendir(path.c_str());
     if (dir == nullptr) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n", __LINE__, path.c_str(),
-                       strerror(errno));
+                       "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n", __LINE__,
+                       path.c_str(), strerror(errno));
         return -1;
     }
     handle.dir = dir;
@@ -586,8 +602,8 @@ bool IsMSDOS(const ustring& path) {
     std::string name;
     if (fs_platform::type_name(path.c_str(), &name) != 0) {
         Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n", __LINE__,
-                       path.c_str(), strerror(errno));
+                       "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
+                       __LINE__, path.c_str(), strerror(errno));
         return false;
     }
     if (name != "msdos")

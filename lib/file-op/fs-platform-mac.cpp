@@ -4,6 +4,10 @@
 #include <sys/mount.h>
 #include <sys/param.h>
 
+// The file-reference calls are deprecated but still the only ones that spell
+// a path exactly as the volume stores it.
+#pragma clang diagnostic ignored "-Wdeprecated-declarations"
+
 namespace fs_platform {
 
 int canonical_path(const char* path, char* buf, ResolveStep* failed_step) {
