@@ -1,1 +1,9 @@
-# Controller, worker, main and the bundle are added here.
+target_sources(launcher_core PRIVATE
+    handler-thread.cpp
+    launcher.cpp
+    worker.cpp)
+
+add_executable(launcher main.cpp)
+target_link_libraries(launcher PRIVATE launcher_core qtsingleapplication)
+
+include(${PROJECT_SOURCE_DIR}/cmake/bundle.cmake)

@@ -1,0 +1,6 @@
+#include "handler-thread.h"
+
+void HandlerThread::run()
+{
+    exec();
+}

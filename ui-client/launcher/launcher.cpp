@@ -1,0 +1,95 @@
+#include "launcher.h"
+
+#include <QCoreApplication>
+
+#include "log.h"
+#include "notify-adapter.h"
+#include "processing-progress-dialog.h"
+#include "worker.h"
+
+namespace {
+
+const char kLogComponent[] = "launcher_debug";
+const int kPercentScale = 100;
+
+struct SignalRoute {
+    QObject* sender;
+    const char* signal;
+    QObject* receiver;
+    const char* slot;
+};
+
+}  // namespace
+
+Launcher::Launcher() : Launcher(new Worker) {}
+
+Launcher::Launcher(Worker* worker) : worker(worker)
+{
+    dialog = new ProcessingProgressDialog;
+    dialog->setCancelButton(nullptr);
+    dialog->setAutoReset(false);
+    ConnectSignals();
+}
+
+// The worker goes first: its destructor waits for any work still running,
+// which may yet report to the dialog.
+Launcher::~Launcher()
+{
+    if (worker)
+        delete worker;
+    if (dialog)
+        delete dialog;
+}
+
+void Launcher::Run()
+{
+    worker->StartThread();
+}
+
+void Launcher::Start()
+{
+    emit sigStart();
+}
+
+void Launcher::LaunchDone()
+{
+    dialog->setValue(kPercentScale);
+    dialog->hide();
+    worker->QuitThread();
+    worker->JoinThread();
+    QCoreApplication::quit();
+}
+
+void Launcher::UpdateProgress(int total, int steps)
+{
+    dialog->setValue(steps * kPercentScale / total);
+}
+
+void Launcher::SetLabelText(QString const& text)
+{
+    dialog->setLabelText(text);
+}
+
+void Launcher::ShowMsgBox()
+{
+    dialog->show();
+}
+
+void Launcher::ConnectSignals()
+{
+    Notify_Adapter* relay = Notify_Adapter::GetInstance();
+    const SignalRoute routes[] = {
+        {this, SIGNAL(sigStart()), worker, SLOT(HandleServicce())},
+        {worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox())},
+        {worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone())},
+        {worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int))},
+        {worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString))},
+        {relay, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int))},
+        {relay, SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString))},
+    };
+    for (const SignalRoute& route : routes) {
+        if (!connect(route.sender, route.signal, route.receiver, route.slot))
+            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] launcher(%d): cannot connect %s to %s\n",
+                           __LINE__, route.signal, route.slot);
+    }
+}

@@ -1,0 +1,44 @@
+#ifndef WORKER_H
+#define WORKER_H
+
+#include <QObject>
+#include <QString>
+
+class HandlerThread;
+class Service;
+
+// Runs the upgrade service off the GUI thread: it moves itself to a thread of
+// its own and reports back to the Launcher through queued signals only.
+class Worker : public QObject {
+    Q_OBJECT
+
+public:
+    Worker();
+    ~Worker() override;
+
+    void StartThread();
+    void QuitThread();
+    void JoinThread();
+
+signals:
+    void sigServiceDone();
+    void sigShowMsg();
+    void sigUpdateProgress(int total, int current);
+    void sigSetLabelText(QString const& text);
+
+protected:
+    // Takes ownership of service.
+    explicit Worker(Service* service);
+
+private slots:
+    void HandleServicce();
+
+private:
+    void UpgradePackage();
+    void FinishPendingWork();
+
+    HandlerThread* thread = nullptr;
+    Service* service = nullptr;
+};
+
+#endif  // WORKER_H
