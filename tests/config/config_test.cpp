@@ -91,13 +91,21 @@ TEST_F(ConfigTest, AnySyntaxErrorEmptiesTheMap)
         "key=\n",          "key=   \n",        "key= \r\n",        "key\n",
         "[Version]\n",     "key!=1\n",         "k\xc3\xa9y=1\n",   "key=a b\n",
         "key=a\tb\n",      "key=\"open\n",     "key=\"a\tb\"\n",   "key='a' b\n",
-        "key=\"no end",    "key=a\x7f\n",      "key=\"a\x7f\"\n",  "key: 1\n",
+        "key=\"a\"b\n",    "key=a\x7f\n",      "key=\"a\x7f\"\n",  "key: 1\n",
     };
     for (const std::string& bad : bad_lines) {
         SCOPED_TRACE(bad);
         Config config;
         config.entries["from_before"] = "x";
         EXPECT_EQ(config.read(writeFile("good=1\n" + bad + "after=2\n")), -1);
+        EXPECT_TRUE(config.entries.empty());
+    }
+
+    // Without a newline the text simply ends: a quote must still be closed.
+    for (const char* last : {"key=\"no end", "key='", "key=\"a\" b"}) {
+        SCOPED_TRACE(last);
+        Config config;
+        EXPECT_EQ(config.read(writeFile("good=1\n" + std::string(last))), -1);
         EXPECT_TRUE(config.entries.empty());
     }
 }

@@ -215,11 +215,11 @@ TEST_F(LoggerTest, FailedRotationLeavesTheLoggerSilentUntilReinitialised)
     EXPECT_EQ(fileSize(path("fresh.log")), STAMP_LENGTH + 5);
 }
 
-TEST_F(LoggerTest, ConcurrentMessagesNeverShareALine)
+TEST_F(LoggerTest, ConcurrentMessagesNeverShareALineAcrossRotations)
 {
     const int threads = 8;
-    const int messages = 300;
-    const int payload = 200;
+    const int messages = 500;
+    const int payload = 1000;
     openLog("threads.log", ROTATION_SLOTS);
 
     std::vector<std::thread> workers;
@@ -233,18 +233,24 @@ TEST_F(LoggerTest, ConcurrentMessagesNeverShareALine)
     for (std::thread& worker : workers)
         worker.join();
 
-    const std::vector<std::string> written = lines(readFile(path("threads.log")));
+    // About 4 MiB in all, so the rotations happen while other threads wait
+    // to write; no message may be lost or torn on the way.
+    std::string all;
+    for (const QString& name : QDir(dir.path()).entryList(QDir::Files))
+        all += readFile(path(name.toStdString()));
+    const std::vector<std::string> written = lines(all);
     ASSERT_EQ(written.size(), static_cast<std::size_t>(threads * messages));
     const std::regex shape(std::string("^") + STAMP_PATTERN + "\\[ERROR\\] t([0-7])\\([0-9]+\\): ([a-h]+)$");
     std::vector<int> per_thread(threads, 0);
     for (const std::string& line : written) {
         std::smatch match;
-        ASSERT_TRUE(std::regex_match(line, match, shape)) << line;
+        ASSERT_TRUE(std::regex_match(line, match, shape)) << line.substr(0, 80);
         const int t = std::stoi(match[1].str());
         EXPECT_EQ(match[2].str(), std::string(payload, static_cast<char>('a' + t)));
         ++per_thread[t];
     }
     EXPECT_EQ(per_thread, std::vector<int>(threads, messages));
+    EXPECT_TRUE(exists(path("threads.log_2")));
 }
 
 }  // namespace

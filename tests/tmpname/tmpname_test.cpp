@@ -145,7 +145,7 @@ TEST(TmpNameGen, KeyTextIsSecondsAndMicroseconds)
 TEST(TmpNameGen, ConcurrentCallersShareOnePermutation)
 {
     const int threads = 4;
-    const int per_thread = 2000;
+    const int per_thread = 20000;
     TmpNameGen generator(FIXED_KEY);
     std::vector<std::vector<std::string>> produced(threads);
     std::vector<std::thread> workers;
