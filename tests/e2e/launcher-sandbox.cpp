@@ -1,0 +1,230 @@
+#include "launcher-sandbox.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QThread>
+
+namespace {
+
+const int kProcessTimeoutMs = 30000;
+const int kPollIntervalMs = 50;
+const int kClientStartTimeoutMs = 5000;
+const char kLauncher[] = "Drovia.app/Contents/MacOS/launcher";
+const char kLevelFile[] = "launcher_debug=7\nservice_debug=7\n";
+
+bool copyTree(const QString& from, const QString& to)
+{
+    QDirIterator it(from, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString source = it.next();
+        const QString target = to + source.mid(from.size());
+        if (!QDir().mkpath(QFileInfo(target).absolutePath()) || !QFile::copy(source, target))
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !file.open(QIODevice::WriteOnly))
+        return false;
+    return file.write(content) == content.size();
+}
+
+bool waitUntil(const std::function<bool()>& condition, int timeout_ms)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > timeout_ms)
+            return false;
+        QThread::msleep(kPollIntervalMs);
+    }
+    return true;
+}
+
+bool pidNamespaceAvailable()
+{
+    static const bool available =
+        QProcess::execute(QStringLiteral("unshare"), {"-pf", "--mount-proc", "true"}) == 0;
+    return available;
+}
+
+void LauncherSandbox::SetUp()
+{
+    ASSERT_TRUE(sandbox.isValid());
+    home = sandbox.filePath("home");
+    bundle = sandbox.filePath("Drovia.app");
+    ASSERT_TRUE(QDir().mkpath(home));
+    ASSERT_TRUE(QDir().mkpath(sandbox.filePath("tmp")));
+    ASSERT_TRUE(copyTree(DROVIA_BUNDLE_DIR "/Contents/MacOS", bundle + "/Contents/MacOS"));
+    ASSERT_TRUE(copyTree(DROVIA_BUNDLE_DIR "/Contents/Frameworks", bundle + "/Contents/Frameworks"));
+    ASSERT_TRUE(writeFile(bundle + "/log/launcher.debug", kLevelFile));
+}
+
+QString LauncherSandbox::userPath(const QString& relative) const
+{
+    return home + "/.Drovia/" + relative;
+}
+
+QString LauncherSandbox::stageClient(int build, const QString& label)
+{
+    const QString stage = sandbox.filePath("stage-" + label);
+    const QString client = stage + "/Contents/MacOS/cloud-ui";
+    EXPECT_TRUE(writeFile(client, "#!/bin/sh\necho " + label.toUtf8() + " >> \"$HOME/.Drovia/started\"\n"));
+    EXPECT_TRUE(QFile::setPermissions(client, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    EXPECT_TRUE(writeVersion(stage + "/Contents/Resources/INFO", build));
+    return stage;
+}
+
+void LauncherSandbox::shipInBundle(int build, const QString& label)
+{
+    const QString stage = stageClient(build, label);
+    ASSERT_EQ(QProcess::execute(MAKE_PACKAGE, {stage, packagePath()}), 0);
+    ASSERT_TRUE(writeVersion(bundle + "/Contents/Resources/INFO", build));
+}
+
+void LauncherSandbox::shipDamagedPackage(int build)
+{
+    ASSERT_TRUE(writeFile(packagePath(), QByteArray("PK\x03\x04 this is not a zip archive", 32)));
+    ASSERT_TRUE(writeVersion(bundle + "/Contents/Resources/INFO", build));
+}
+
+void LauncherSandbox::installForUser(int build, const QString& label)
+{
+    ASSERT_TRUE(copyTree(stageClient(build, label), userPath("Drovia.app")));
+}
+
+QProcessEnvironment LauncherSandbox::environment() const
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("HOME", home);
+    env.insert("TMPDIR", sandbox.filePath("tmp"));
+    env.insert("QT_QPA_PLATFORM", "offscreen");
+    env.insert("LC_ALL", "C");
+    env.insert("LANG", "C");
+    env.insert("LOG", userPath("log/launcher.log"));
+    env.insert("LAUNCHER", kLauncher);
+    return env;
+}
+
+LauncherRun LauncherSandbox::runLauncher()
+{
+    return runLauncher(environment());
+}
+
+LauncherRun LauncherSandbox::runLauncher(const QProcessEnvironment& env)
+{
+    QProcess launcher;
+    launcher.setProcessEnvironment(env);
+    launcher.setWorkingDirectory(sandbox.path());
+    launcher.start(kLauncher, QStringList());
+    LauncherRun run;
+    if (!launcher.waitForFinished(kProcessTimeoutMs)) {
+        launcher.kill();
+        launcher.waitForFinished();
+        return run;
+    }
+    run.exit_code = launcher.exitStatus() == QProcess::NormalExit ? launcher.exitCode() : -1;
+    run.out = QString::fromUtf8(launcher.readAllStandardOutput());
+    run.err = QString::fromUtf8(launcher.readAllStandardError());
+    return run;
+}
+
+void LauncherSandbox::startInPidNamespace(QProcess& process, const QByteArray& script,
+                                          const QProcessEnvironment& env)
+{
+    const QString path = sandbox.filePath("run.sh");
+    ASSERT_TRUE(writeFile(path, script));
+    process.setProcessEnvironment(env);
+    process.setWorkingDirectory(sandbox.path());
+    process.start("unshare", {"-pf", "--mount-proc", "sh", path});
+    ASSERT_TRUE(process.waitForStarted(kProcessTimeoutMs));
+}
+
+QMap<QString, QString> LauncherSandbox::finish(QProcess& process)
+{
+    QMap<QString, QString> results;
+    if (!process.waitForFinished(kProcessTimeoutMs)) {
+        process.kill();
+        process.waitForFinished();
+        return results;
+    }
+    for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
+        const int equals = line.indexOf('=');
+        if (equals > 0)
+            results.insert(QString::fromUtf8(line.left(equals)), QString::fromUtf8(line.mid(equals + 1)));
+    }
+    return results;
+}
+
+QMap<QString, QString> LauncherSandbox::runInPidNamespace(const QByteArray& script)
+{
+    QProcess process;
+    startInPidNamespace(process, script, environment());
+    return finish(process);
+}
+
+QStringList LauncherSandbox::logMessages() const
+{
+    QFile log(userPath("log/launcher.log"));
+    if (!log.open(QIODevice::ReadOnly))
+        return {};
+    return messagesIn(QString::fromUtf8(log.readAll()));
+}
+
+// "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running"
+QStringList LauncherSandbox::messagesIn(const QString& text)
+{
+    static const QRegularExpression line_shape(QStringLiteral(R"(\] ([\w/-]+)\(\d+\): (.*)$)"));
+    QStringList messages;
+    for (const QString& line : text.split('\n', Qt::SkipEmptyParts)) {
+        const QRegularExpressionMatch match = line_shape.match(line);
+        if (match.hasMatch())
+            messages << match.captured(1) + ": " + match.captured(2);
+    }
+    return messages;
+}
+
+QStringList LauncherSandbox::startedClients(int count) const
+{
+    const QString path = userPath("started");
+    const auto read = [&path] {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return QStringList();
+        return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    };
+    waitUntil([&] { return read().size() >= count; }, kClientStartTimeoutMs);
+    return read();
+}
+
+QString LauncherSandbox::installedBuild() const
+{
+    QSettings info(userPath("Drovia.app/Contents/Resources/INFO"), QSettings::IniFormat);
+    return info.value("Version/build_version").toString();
+}
+
+QStringList LauncherSandbox::backupFolders() const
+{
+    return QDir(home + "/.Drovia").entryList({"Drovia.app_tmp*"}, QDir::AllEntries | QDir::NoDotAndDotDot);
+}
+
+QString LauncherSandbox::packagePath() const
+{
+    return bundle + "/Contents/Resources/package/drovia.vpk";
+}
+
+bool LauncherSandbox::writeVersion(const QString& path, int build)
+{
+    return writeFile(path, "[Version]\nmajor_version=3\nminor_version=2\nbuild_version=" + QByteArray::number(build) +
+                               "\nicon_overlay_version=0\n");
+}
