@@ -8,7 +8,7 @@ PACKAGES=(
     qtbase5-dev qttools5-dev qttools5-dev-tools
     libarchive-dev libarchive-tools libicu-dev
     googletest libgtest-dev
-    xvfb x11-apps imagemagick
+    xvfb x11-apps x11-utils imagemagick
 )
 
 missing=()
