@@ -76,7 +76,7 @@ std::map<ustring, int32_t> Logger::log_level;
 FILE* Logger::log_fp = stderr;
 ustring Logger::log_path;
 
-int Logger::Initialize(Type type, const ustring& path, const ustring& level_file, int rotate_cnt)
+int Logger::Initialize(Type type, const ustring& path, const ustring& level_file, int rotation_slots)
 {
     log_level[DEFAULT_COMPONENT] = DEFAULT_THRESHOLD;
     load_levels(level_file);
@@ -92,7 +92,7 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_file
         use_stream(nullptr);
         return 0;
     default:
-        return open_file(path, rotate_cnt);
+        return open_file(path, rotation_slots);
     }
 }
 
