@@ -175,9 +175,12 @@ TEST_F(ExtractorTest, UnusableArchivesFailBeforeTouchingTheDestination)
     }
     EXPECT_NE(log.Text().find("): archive_read_open_filename failed: '"), std::string::npos);
 
-    // Cut inside the first entry's data: counting may succeed, unpacking must not.
-    ASSERT_TRUE(WriteBytes(ArchivePath(), complete.substr(0, complete.size() / 4)));
-    EXPECT_EQ(extractor.Extract(), -1);
+    // Cut at the start and near the end: the first cannot be opened, the second
+    // opens and counts but runs out in the middle of an entry's data.
+    for (size_t kept : {complete.size() / 4, complete.size() - 64}) {
+        ASSERT_TRUE(WriteBytes(ArchivePath(), complete.substr(0, kept)));
+        EXPECT_EQ(extractor.Extract(), -1);
+    }
 }
 
 TEST_F(ExtractorTest, EmptyPathsAndHandlesAreRefused)

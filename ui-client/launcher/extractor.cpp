@@ -30,7 +30,7 @@ struct WriterFree {
 using ReadHandle = std::unique_ptr<archive, ReaderFree>;
 using WriteHandle = std::unique_ptr<archive, WriterFree>;
 
-// The library leaves the text unset when a failure came from the other handle.
+// The library leaves the text unset when the failure came from elsewhere.
 const char* ErrorText(archive* handle)
 {
     const char* text = archive_error_string(handle);
@@ -82,9 +82,11 @@ int WriteEntry(archive* reader, archive* writer, archive_entry* entry, const ust
     const ustring target = dest_path + "/" + name;
     archive_entry_set_pathname(entry, target.c_str_utf8());
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
+        // A read that fails inside the copy leaves its message on the reader only.
+        const char* reason = archive_error_string(writer) ? ErrorText(writer) : ErrorText(reader);
         Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
                        "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
-                       ErrorText(writer));
+                       reason);
         return -1;
     }
     return 0;
