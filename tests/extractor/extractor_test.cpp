@@ -1,14 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <archive.h>
-#include <archive_entry.h>
 
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -203,7 +201,7 @@ TEST_F(ExtractorTest, EmptyPathsAndHandlesAreRefused)
     EXPECT_EQ(text.find("Failed to calculate"), std::string::npos);
 }
 
-TEST_F(ExtractorTest, ListPrintsNamesAndCopyDataMovesOneEntry)
+TEST_F(ExtractorTest, ListPrintsEveryEntryName)
 {
     ASSERT_TRUE(WriteBytes(ArchivePath(), MakeArchive(ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE,
                                                       kThreeEntries)));
@@ -211,23 +209,6 @@ TEST_F(ExtractorTest, ListPrintsNamesAndCopyDataMovesOneEntry)
     EXPECT_EQ(extractor.List(), 0);
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "Contents/\nContents/first.txt\nContents/second.txt\n");
-
-    std::unique_ptr<archive, decltype(&archive_read_free)> reader(archive_read_new(),
-                                                                  archive_read_free);
-    std::unique_ptr<archive, decltype(&archive_write_free)> writer(archive_write_disk_new(),
-                                                                   archive_write_free);
-    ASSERT_TRUE(reader && writer);
-    archive_read_support_format_all(reader.get());
-    ASSERT_EQ(archive_read_open_filename(reader.get(), extractor.archive_path.c_str_utf8(), 10240),
-              ARCHIVE_OK);
-    archive_entry* entry = nullptr;
-    ASSERT_EQ(archive_read_next_header(reader.get(), &entry), ARCHIVE_OK);  // the folder
-    ASSERT_EQ(archive_read_next_header(reader.get(), &entry), ARCHIVE_OK);
-    archive_entry_set_pathname(entry, (Dest() + "/copied.txt").toUtf8().constData());
-    ASSERT_EQ(archive_write_header(writer.get(), entry), ARCHIVE_OK);
-    EXPECT_EQ(extractor.copy_data(reader.get(), writer.get()), 0);
-    EXPECT_EQ(archive_write_finish_entry(writer.get()), ARCHIVE_OK);
-    EXPECT_EQ(ReadBytes(Dest() + "/copied.txt"), "first");
 }
 
 }  // namespace

@@ -17,13 +17,9 @@
 class InspectableService : public MacService {
 public:
     using Service::source_build_version;
-    using Service::source_icon_overlay_version;
     using Service::source_major_version;
-    using Service::source_minor_version;
-    using Service::target_build_version;
     using Service::target_icon_overlay_version;
     using Service::target_major_version;
-    using Service::target_minor_version;
     using Service::timeout;
     using Service::user_app_path;
 };

@@ -88,6 +88,7 @@ int MoveAppAside(const ustring& app, ustring& backup)
 }
 
 // Lower indices go too: they are backups that earlier runs could not clean up.
+// A backup that refuses to go only costs disk space, so failures are ignored.
 void RemoveBackups(const ustring& app, int last_index)
 {
     for (int index = 0; index <= last_index; ++index)
