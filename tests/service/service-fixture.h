@@ -14,7 +14,7 @@
 #include "ustring.h"
 
 // A MacService whose state the tests may read.
-class InspectableService : public MacService {
+class ExposedService : public MacService {
 public:
     using Service::source_build_version;
     using Service::source_major_version;

@@ -49,7 +49,7 @@ TEST_F(UpgradeTest, LayoutFollowsHomeAndExecutableFolder)
     EXPECT_EQ(ToQString(Service::GetUserInstallPath()), home);
     EXPECT_EQ(ToQString(Service::GetUserDroviaInstallPath()), home + "/.Drovia");
     EXPECT_EQ(ToQString(Service::GetUserDroviaAppInstallPath()), home + "/.Drovia/Drovia.app");
-    InspectableService service;
+    ExposedService service;
     EXPECT_EQ(service.timeout, 10000);
     EXPECT_EQ(ToQString(service.user_app_path), home + "/.Drovia/Drovia.app");
 }
@@ -84,7 +84,7 @@ TEST_F(UpgradeTest, DecisionFollowsBuildNumbersAndClientPresence)
         if (row.client) {
             ASSERT_TRUE(WriteBytes(UserClient(), "client"));
         }
-        InspectableService service;
+        ExposedService service;
         service.PreUpgrade();
         EXPECT_EQ(service.IsNeedUpgrade(), row.upgrade);
     }
@@ -106,7 +106,7 @@ TEST_F(UpgradeTest, VersionFilesAreReadAsWrittenAndBrokenOnesAsEmpty)
     const std::string broken_files[] = {"", "\x01\x02 binary \xff\xfe", "[Other]\nbuild_version=9\n"};
     for (const std::string& broken : broken_files) {
         ASSERT_TRUE(WriteBytes(source_file, broken));
-        InspectableService service;
+        ExposedService service;
         service.PreUpgrade();
         EXPECT_TRUE(service.source_build_version.empty());
         EXPECT_TRUE(service.source_major_version.empty());
@@ -120,7 +120,7 @@ TEST_F(UpgradeTest, VersionFilesAreReadAsWrittenAndBrokenOnesAsEmpty)
 
     // Only the build number decides: a higher major version alone is no upgrade.
     ASSERT_TRUE(WriteBytes(source_file, VersionFile("major_version=3\nbuild_version=121")));
-    InspectableService same_build;
+    ExposedService same_build;
     same_build.PreUpgrade();
     EXPECT_FALSE(same_build.IsNeedUpgrade());
 }
