@@ -1,59 +1,48 @@
 #include <gtest/gtest.h>
 
-#include <QStringList>
-
-#include "message-capture.h"
-#include "qt-printers.h"
 #include "VelmLocale.h"
+#include "qt-test-support.h"
 
 // The test resources hold ":/enu.qm" in one collection and ":/deu.qm" in
-// another, which is switched on and off here.
-static void installGermanCatalogue()
+// another, which is switched off and on here.
+static void setGermanCatalogueInstalled(bool installed)
 {
-    Q_INIT_RESOURCE(locale_german);
-}
-
-static void removeGermanCatalogue()
-{
-    Q_CLEANUP_RESOURCE(locale_german);
+    if (installed)
+        Q_INIT_RESOURCE(locale_deu);
+    else
+        Q_CLEANUP_RESOURCE(locale_deu);
 }
 
 namespace {
 
-QStringList capturedTexts()
-{
-    QStringList texts;
-    for (const CapturedMessage& message : MessageCapture::messages())
-        texts.append(message.text);
-    return texts;
-}
+using Lines = MessageCapture::Lines;
 
 // The toolkit reads the system locale once per process, so everything that
 // depends on it is in this one test.
 TEST(DefaultLanguage, FollowsTheSystemLocaleUnlessItsCatalogueIsMissing)
 {
     qputenv("LC_ALL", "de_DE.UTF-8");
-    const QString prefix = QStringLiteral("../libcommon/VelmLocale:");
+    const QString file = QStringLiteral("../libcommon/VelmLocale:");
+    const Lines localeLines = {{64, file + "64 qPrintable(qstrLocaleLower)=[de_de\n] "},
+                               {80, file + "80 qPrintable(qstrLocaleLower)=[de_de] "}};
 
-    removeGermanCatalogue();
+    setGermanCatalogueInstalled(false);
     {
         MessageCapture capture;
         EXPECT_EQ(VelmLocale::getDefaultLanguage(), QStringLiteral("enu"));
-        EXPECT_EQ(capturedTexts(),
-                  (QStringList{prefix + "64 qPrintable(qstrLocaleLower)=[de_de\n] ",
-                               prefix + "80 qPrintable(qstrLocaleLower)=[de_de] ",
-                               prefix + "138 qPrintable(qstrDef)=[enu\n] "}));
+        Lines expected = localeLines;
+        expected.emplace_back(138, file + "138 qPrintable(qstrDef)=[enu\n] ");
+        EXPECT_EQ(MessageCapture::lines(), expected);
     }
 
-    installGermanCatalogue();
+    setGermanCatalogueInstalled(true);
     {
         MessageCapture capture;
         EXPECT_EQ(VelmLocale::getDefaultLanguage(), QStringLiteral("deu"));
-        EXPECT_EQ(capturedTexts(),
-                  (QStringList{prefix + "64 qPrintable(qstrLocaleLower)=[de_de\n] ",
-                               prefix + "80 qPrintable(qstrLocaleLower)=[de_de] ",
-                               prefix + "161 qPrintable(qstrLangFileName)=[:/deu.qm] ",
-                               prefix + "138 qPrintable(qstrDef)=[deu\n] "}));
+        Lines expected = localeLines;
+        expected.emplace_back(161, file + "161 qPrintable(qstrLangFileName)=[:/deu.qm] ");
+        expected.emplace_back(138, file + "138 qPrintable(qstrDef)=[deu\n] ");
+        EXPECT_EQ(MessageCapture::lines(), expected);
     }
 }
 
