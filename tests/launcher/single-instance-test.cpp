@@ -70,13 +70,15 @@ TEST_F(SingleInstanceTest, OnlyACopyFromTheSamePathSeesTheHolder)
     EXPECT_EQ(probeOnce(probeIn("a.app")), "running=0");
 }
 
-TEST_F(SingleInstanceTest, KilledHolderDoesNotBlockTheNextRun)
+TEST_F(SingleInstanceTest, NeitherAKilledHolderNorAnUnusableTempFolderBlocks)
 {
     QProcess holder;
     ASSERT_EQ(startProbe(holder, probeIn("a.app"), {"hold"}), "running=0");
     holder.kill();
     ASSERT_TRUE(holder.waitForFinished(kProcessTimeoutMs));
+    EXPECT_EQ(probeOnce(probeIn("a.app")), "running=0");
 
+    environment.insert("TMPDIR", sandbox.filePath("missing"));
     EXPECT_EQ(probeOnce(probeIn("a.app")), "running=0");
 }
 

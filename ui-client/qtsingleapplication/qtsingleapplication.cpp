@@ -20,7 +20,10 @@ QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool GUIenabled
     // The lock is held for the whole life of the process, so its age says
     // nothing: only a dead holder makes it stale.
     instance_lock.setStaleLockTime(0);
-    other_instance_running = !instance_lock.tryLock(0);
+    // Only a lock held by someone else means another instance; a temporary
+    // folder that cannot hold the lock must not keep the program from running.
+    other_instance_running =
+        !instance_lock.tryLock(0) && instance_lock.error() == QLockFile::LockFailedError;
 }
 
 bool QtSingleApplication::isRunning()
