@@ -16,6 +16,7 @@ const int kPollIntervalMs = 50;
 const int kClientStartTimeoutMs = 5000;
 const char kLauncher[] = "Drovia.app/Contents/MacOS/launcher";
 const char kLevelFile[] = "launcher_debug=7\nservice_debug=7\n";
+const char kDamagedPackage[] = "PK\x03\x04 this is not a zip archive";
 
 bool copyTree(const QString& from, const QString& to)
 {
@@ -37,6 +38,12 @@ bool writeFile(const QString& path, const QByteArray& content)
     if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !file.open(QIODevice::WriteOnly))
         return false;
     return file.write(content) == content.size();
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 bool waitUntil(const std::function<bool()>& condition, int timeout_ms)
@@ -94,7 +101,7 @@ void LauncherSandbox::shipInBundle(int build, const QString& label)
 
 void LauncherSandbox::shipDamagedPackage(int build)
 {
-    ASSERT_TRUE(writeFile(packagePath(), QByteArray("PK\x03\x04 this is not a zip archive", 32)));
+    ASSERT_TRUE(writeFile(packagePath(), QByteArray(kDamagedPackage, sizeof kDamagedPackage - 1)));
     ASSERT_TRUE(writeVersion(bundle + "/Contents/Resources/INFO", build));
 }
 
@@ -175,10 +182,7 @@ QMap<QString, QString> LauncherSandbox::runInPidNamespace(const QByteArray& scri
 
 QStringList LauncherSandbox::logMessages() const
 {
-    QFile log(userPath("log/launcher.log"));
-    if (!log.open(QIODevice::ReadOnly))
-        return {};
-    return messagesIn(QString::fromUtf8(log.readAll()));
+    return messagesIn(QString::fromUtf8(readFile(userPath("log/launcher.log"))));
 }
 
 // "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running"
@@ -197,12 +201,7 @@ QStringList LauncherSandbox::messagesIn(const QString& text)
 QStringList LauncherSandbox::startedClients(int count) const
 {
     const QString path = userPath("started");
-    const auto read = [&path] {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return QStringList();
-        return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-    };
+    const auto read = [&path] { return QString::fromUtf8(readFile(path)).split('\n', Qt::SkipEmptyParts); };
     waitUntil([&] { return read().size() >= count; }, kClientStartTimeoutMs);
     return read();
 }

@@ -18,6 +18,7 @@ struct LauncherRun {
 };
 
 bool writeFile(const QString& path, const QByteArray& content);
+QByteArray readFile(const QString& path);
 bool waitUntil(const std::function<bool()>& condition, int timeout_ms);
 bool pidNamespaceAvailable();
 

@@ -85,7 +85,7 @@ TEST_F(UpgradeDialog, IsOnScreenWhileTheOldClientStops)
     startInPidNamespace(run, R"(
 ( trap 'sleep 2; exit 0' TERM; while true; do sleep 1; done ) &
 echo "pid=$!" > "$HOME/.Drovia/ui.pid"
-"$LAUNCHER" > /dev/null 2>&1
+"$LAUNCHER" > launcher.out 2>&1
 echo "launcher=$?"
 while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
 )", env);
@@ -101,7 +101,7 @@ while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
         EXPECT_GT(QFileInfo(kScreenshot).size(), 0);
     }
 
-    EXPECT_EQ(finish(run).value("launcher"), "0");
+    EXPECT_EQ(finish(run).value("launcher"), "0") << readFile(sandbox.filePath("launcher.out")).toStdString();
     EXPECT_EQ(installedBuild(), "5");
 }
 

@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <mutex>
+#include <ostream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -122,7 +123,8 @@ private:
 QTemporaryDir LauncherEnvironment::home;
 ::testing::Environment* const environment = ::testing::AddGlobalTestEnvironment(new LauncherEnvironment);
 
-// "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running"
+// "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running",
+// without any path at the end of the message.
 QStringList logStepsSince(qint64 offset)
 {
     QFile log(LauncherEnvironment::logPath());
@@ -133,7 +135,7 @@ QStringList logStepsSince(qint64 offset)
     for (const QString& line : QString::fromUtf8(log.readAll()).split('\n', Qt::SkipEmptyParts)) {
         const QRegularExpressionMatch match = line_shape.match(line);
         if (match.hasMatch())
-            steps << match.captured(1) + ": " + match.captured(2);
+            steps << match.captured(1) + ": " + match.captured(2).section(" /", 0, 0);
     }
     return steps;
 }
@@ -167,86 +169,60 @@ bool runEventLoop()
     return !timed_out;
 }
 
-struct RunResult {
+struct RunCase {
+    const char* name;
+    bool need_upgrade;
+    int upgrade_result;
     QStringList steps;
-    int show_requests = 0;
-    bool dialog_hidden = false;
-    int dialog_value = -1;
-    QString dialog_label;
+    int show_requests;
+    const char* final_label;
 };
 
-RunResult runLauncher(FakeService* service)
+void PrintTo(const RunCase& run_case, std::ostream* out)
 {
-    RunResult result;
-    const qint64 log_start = logSize();
+    *out << run_case.name;
+}
+
+class LauncherRun : public ::testing::TestWithParam<RunCase> {};
+
+TEST_P(LauncherRun, LogsEachStepInOrderAndEndsWithTheDialogHidden)
+{
+    const RunCase& expected = GetParam();
+    auto* service = new FakeService;
+    service->need_upgrade = expected.need_upgrade;
+    service->upgrade_result = expected.upgrade_result;
     auto* worker = new TestWorker(service);
     QSignalSpy show_requests(worker, SIGNAL(sigShowMsg()));
     auto* launcher = new TestLauncher(worker);
+    const qint64 log_start = logSize();
+
     launcher->Run();
     launcher->Start();
-    EXPECT_TRUE(runEventLoop());
+    ASSERT_TRUE(runEventLoop());
 
     QProgressDialog* dialog = findDialog();
-    EXPECT_NE(dialog, nullptr);
-    if (dialog) {
-        result.dialog_hidden = dialog->isHidden();
-        result.dialog_value = dialog->value();
-        result.dialog_label = dialog->labelText();
-    }
-    result.show_requests = show_requests.count();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(dialog->isHidden());
+    EXPECT_EQ(dialog->value(), 100);
+    EXPECT_EQ(dialog->labelText(), expected.final_label);
+    EXPECT_EQ(show_requests.count(), expected.show_requests);
     delete launcher;
-    result.steps = logStepsSince(log_start);
-    return result;
+    EXPECT_EQ(logStepsSince(log_start), expected.steps);
 }
 
-TEST(LauncherRun, NoUpgradeStartsTheClientWithoutShowingTheDialog)
-{
-    auto* service = new FakeService;
-    const RunResult run = runLauncher(service);
+const QStringList kHead = {"launcher: running", "fake: PreUpgrade", "fake: IsNeedUpgrade"};
+const QStringList kTail = {"cloud-service: removing aged app folder", "fake: PostUpgrade", "launcher: done"};
 
-    EXPECT_EQ(run.steps, QStringList({"launcher: running", "fake: PreUpgrade", "fake: IsNeedUpgrade",
-                                      "launcher: no need to upgrade",
-                                      "cloud-service: removing aged app folder " + LauncherEnvironment::home.path() +
-                                          "/.Drovia/app",
-                                      "fake: PostUpgrade", "launcher: done"}));
-    EXPECT_EQ(run.show_requests, 0);
-    EXPECT_TRUE(run.dialog_hidden);
-    EXPECT_EQ(run.dialog_label, kPreparingText);
-}
-
-TEST(LauncherRun, SuccessfulUpgradeEndsAtReadyAndHidesTheDialog)
-{
-    auto* service = new FakeService;
-    service->need_upgrade = true;
-    const RunResult run = runLauncher(service);
-
-    const QStringList expected_head = {"launcher: running", "fake: PreUpgrade", "fake: IsNeedUpgrade",
-                                       "fake: HandlePackageUpgrade"};
-    EXPECT_EQ(run.steps.mid(0, 4), expected_head);
-    EXPECT_TRUE(run.steps.at(4).startsWith("cloud-service: removing aged app folder"));
-    EXPECT_EQ(run.steps.mid(5), QStringList({"fake: PostUpgrade", "launcher: done"}));
-    EXPECT_EQ(run.show_requests, 1);
-    EXPECT_TRUE(run.dialog_hidden);
-    EXPECT_EQ(run.dialog_value, 100);
-    EXPECT_EQ(run.dialog_label, kReadyText);
-}
-
-TEST(LauncherRun, FailedUpgradeIsLoggedAndStillStartsTheClient)
-{
-    auto* service = new FakeService;
-    service->need_upgrade = true;
-    service->upgrade_result = -1;
-    const RunResult run = runLauncher(service);
-
-    ASSERT_GE(run.steps.size(), 8);
-    EXPECT_EQ(run.steps.mid(3, 2),
-              QStringList({"fake: HandlePackageUpgrade", "launcher: Failed to upgrade package"}));
-    EXPECT_EQ(run.steps.mid(6), QStringList({"fake: PostUpgrade", "launcher: done"}));
-    EXPECT_EQ(run.show_requests, 1);
-    EXPECT_TRUE(run.dialog_hidden);
-    EXPECT_EQ(run.dialog_value, 100);
-    EXPECT_EQ(run.dialog_label, kPreparingText);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Outcomes, LauncherRun,
+    ::testing::Values(
+        RunCase{"NoUpgrade", false, 0, kHead + QStringList{"launcher: no need to upgrade"} + kTail, 0,
+                kPreparingText},
+        RunCase{"Upgraded", true, 0, kHead + QStringList{"fake: HandlePackageUpgrade"} + kTail, 1, kReadyText},
+        RunCase{"UpgradeFailed", true, -1,
+                kHead + QStringList{"fake: HandlePackageUpgrade", "launcher: Failed to upgrade package"} + kTail, 1,
+                kPreparingText}),
+    [](const ::testing::TestParamInfo<RunCase>& info) { return std::string(info.param.name); });
 
 TEST(LauncherProgress, ReportsBecomeTruncatedPercentages)
 {
