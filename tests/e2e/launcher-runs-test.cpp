@@ -43,7 +43,7 @@ TEST_F(LauncherRuns, UpgradeStopsTheRunningClientFirst)
     installForUser(4, "old");
     shipInBundle(5, "new");
 
-    const QMap<QString, QString> results = runInPidNamespace(R"(
+    const QMap<QString, QString> results = runInPidNamespace(R"sh(
 sleep 30 &
 client=$!
 echo "pid=$client" > "$HOME/.Drovia/ui.pid"
@@ -52,7 +52,7 @@ echo "launcher=$?"
 wait $client
 echo "client=$?"
 while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
-)");
+)sh");
 
     EXPECT_EQ(results.value("launcher"), "0");
     EXPECT_EQ(results.value("client"), "143") << "the client should end by SIGTERM";
@@ -60,6 +60,32 @@ while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
     EXPECT_TRUE(backupFolders().isEmpty());
     EXPECT_EQ(startedClients(1), QStringList({"new"}));
     EXPECT_TRUE(logMessages().contains("mac/mac-service: local appdata exist"));
+}
+
+// The package the build made, with the real demo client, which must write
+// its pid file and leave cleanly, removing it, when asked to stop.
+TEST_F(LauncherRuns, BuiltPackageStartsTheDemoClient)
+{
+    if (!pidNamespaceAvailable())
+        GTEST_SKIP() << "unshare cannot create a PID namespace here";
+    shipBuiltPackage();
+
+    const QMap<QString, QString> results = runInPidNamespace(R"sh(
+"$LAUNCHER" > /dev/null 2>&1
+echo "launcher=$?"
+pid_file="$HOME/.Drovia/ui.pid"
+for i in $(seq 100); do [ -s "$pid_file" ] && break; sleep 0.1; done
+pid=$(sed -n 's/^pid=\([0-9][0-9]*\)$/\1/p' "$pid_file")
+[ -n "$pid" ] || exit 0
+echo "client=$(readlink /proc/$pid/exe)"
+kill -TERM "$pid"
+for i in $(seq 100); do [ -e "$pid_file" ] || break; sleep 0.1; done
+[ -e "$pid_file" ] && echo "pid_file=left" || echo "pid_file=removed"
+)sh");
+
+    EXPECT_EQ(results.value("launcher"), "0");
+    EXPECT_EQ(results.value("client"), userPath("Drovia.app/Contents/MacOS/cloud-ui"));
+    EXPECT_EQ(results.value("pid_file"), "removed");
 }
 
 TEST_F(LauncherRuns, FailedUpgradeRollsBackAndStartsTheOldClient)
@@ -88,7 +114,7 @@ TEST_F(LauncherRuns, SecondInstanceLeavesWhileTheFirstRuns)
     installForUser(4, "old");
     shipInBundle(5, "new");
 
-    const QMap<QString, QString> results = runInPidNamespace(R"(
+    const QMap<QString, QString> results = runInPidNamespace(R"sh(
 ( trap 'sleep 2; exit 0' TERM; while true; do sleep 1; done ) &
 echo "pid=$!" > "$HOME/.Drovia/ui.pid"
 "$LAUNCHER" > /dev/null 2>&1 &
@@ -99,7 +125,7 @@ echo "second=$?"
 wait $first
 echo "first=$?"
 while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
-)");
+)sh");
 
     EXPECT_EQ(results.value("second"), "0");
     EXPECT_EQ(results.value("first"), "0");

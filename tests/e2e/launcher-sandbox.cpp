@@ -99,6 +99,11 @@ void LauncherSandbox::shipInBundle(int build, const QString& label)
     ASSERT_TRUE(writeVersion(bundle + "/Contents/Resources/INFO", build));
 }
 
+void LauncherSandbox::shipBuiltPackage()
+{
+    ASSERT_TRUE(copyTree(DROVIA_BUNDLE_DIR "/Contents/Resources", bundle + "/Contents/Resources"));
+}
+
 void LauncherSandbox::shipDamagedPackage(int build)
 {
     ASSERT_TRUE(writeFile(packagePath(), QByteArray(kDamagedPackage, sizeof kDamagedPackage - 1)));

@@ -32,6 +32,8 @@ protected:
     QString userPath(const QString& relative) const;
 
     void shipInBundle(int build, const QString& label);
+    // The package and version file that the build made, with the demo client.
+    void shipBuiltPackage();
     void shipDamagedPackage(int build);
     void installForUser(int build, const QString& label);
 

@@ -82,13 +82,13 @@ TEST_F(UpgradeDialog, IsOnScreenWhileTheOldClientStops)
     env.insert("QT_QPA_PLATFORM", "xcb");
     env.insert("DISPLAY", xvfb.display);
     QProcess run;
-    startInPidNamespace(run, R"(
+    startInPidNamespace(run, R"sh(
 ( trap 'sleep 2; exit 0' TERM; while true; do sleep 1; done ) &
 echo "pid=$!" > "$HOME/.Drovia/ui.pid"
 "$LAUNCHER" > launcher.out 2>&1
 echo "launcher=$?"
 while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
-)", env);
+)sh", env);
 
     // "0x400007 "Velmora Drovia": ("launcher" "launcher")  400x97+0+0  +0+0"
     const QRegularExpression dialog(QStringLiteral(R"("Velmora Drovia": \("launcher" [^)]*\)\s+400x\d+)"));
