@@ -19,7 +19,7 @@ set(bundle_package ${bundle_resources}/package/drovia.vpk)
 set(bundle_platforms ${bundle_dir}/Contents/Frameworks/plugins/platforms)
 set(stage_client ${stage_dir}/Contents/MacOS/cloud-ui)
 set(stage_info ${stage_dir}/Contents/Resources/INFO)
-set(icon_source ${CMAKE_CURRENT_LIST_DIR}/../ui-client/launcher/images/ico_72_drovia.png)
+set(icon_source ${PROJECT_SOURCE_DIR}/ui-client/launcher/images/ico_72_drovia.png)
 set(make_package ${PROJECT_SOURCE_DIR}/scripts/make-package.sh)
 
 find_program(BSDTAR_EXECUTABLE bsdtar REQUIRED)

@@ -239,6 +239,8 @@ TEST(LauncherProgress, ReportsBecomeTruncatedPercentages)
     EXPECT_EQ(dialog->value(), 66);
     report(7, 7);
     EXPECT_EQ(dialog->value(), 100);
+    report(0, 0);
+    EXPECT_EQ(dialog->value(), 100);
 
     // The relay reaches the same slots.
     Notify_Adapter::GetInstance()->UpdateProgress(4, 1);

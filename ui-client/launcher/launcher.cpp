@@ -60,8 +60,12 @@ void Launcher::LaunchDone()
     QCoreApplication::quit();
 }
 
+// Reporters always count at least one step; an empty count is ignored
+// rather than allowed to stop the upgrade halfway.
 void Launcher::UpdateProgress(int total, int steps)
 {
+    if (total <= 0)
+        return;
     dialog->setValue(steps * kPercentScale / total);
 }
 
