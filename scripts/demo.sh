@@ -127,8 +127,8 @@ echo "Demo bundle: $BUNDLE"
 echo "Demo home:   $DEMO_HOME"
 
 run_launcher "First run: nothing installed yet"
-show_tree
 show_state
+show_tree
 stop_demo_client
 run_launcher "Second run: same build, client not running"
 show_state
