@@ -2,7 +2,7 @@
 // title, while an upgrade waits for the old client to exit.
 #include <gtest/gtest.h>
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
