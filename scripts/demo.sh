@@ -13,7 +13,8 @@ BUILD="${DROVIA_BUILD_DIR:-$ROOT/build}"
 
 "$ROOT/scripts/install-deps.sh"
 cmake -S "$ROOT" -B "$BUILD" -G Ninja > /dev/null
-cmake --build "$BUILD" -j "$(nproc)"
+# Only the bundle: the demo needs neither the tests nor their build time.
+cmake --build "$BUILD" --target drovia_bundle -j "$(nproc)"
 
 DEMO="$BUILD/demo"
 DEMO_HOME="$BUILD/demo-home"
