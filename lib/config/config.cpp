@@ -142,6 +142,12 @@ int Config::read(const ustring& path)
         if (result == LINE_ENTRY)
             entries[to_ustring(key)] = to_ustring(value);
     }
+    // getc reports a read error (a folder, an I/O error) as the end of the
+    // file; what was read so far may be only part of the entries.
+    if (ferror(file.get())) {
+        entries.clear();
+        return -1;
+    }
     return 0;
 }
 
