@@ -24,3 +24,6 @@ export LSAN_OPTIONS="suppressions=$ROOT/scripts/lsan.supp:print_suppressions=0"
 export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
 run_suite "$ROOT/build-sanitize" -DDROVIA_SANITIZE=ON
+
+# Each fuzz target for 20 seconds in a clang build of its own.
+"$ROOT/scripts/fuzz.sh" 20
