@@ -9,6 +9,7 @@ PACKAGES=(
     libarchive-dev libarchive-tools libicu-dev
     googletest libgtest-dev
     xvfb x11-apps x11-utils imagemagick
+    clang libclang-rt-14-dev
 )
 
 missing=()
