@@ -1,15 +1,24 @@
 #!/usr/bin/env bash
 # Packs a staged per-user bundle into the package archive that the launcher
 # unpacks into ~/.Drovia/Drovia.app:
-#   make-package.sh <staged bundle folder> <output .vpk>
+#   make-package.sh <staged bundle folder> <output .vpk> [format]
 # The archive is a zip with deflate: quick to unpack, and its central
 # directory makes counting the entries cheap. Folders come first and the
 # version file last, so an interrupted unpack never looks like a complete
 # installation.
 set -euo pipefail
 
-if [ $# -ne 2 ]; then
-    echo "usage: $0 <staged bundle folder> <output .vpk>" >&2
+# Formats the benchmarks compare; docs/performance.md has the numbers.
+case "${3:-zip}" in
+    zip)        FORMAT=(--format zip --options zip:compression=deflate) ;;
+    zip-stored) FORMAT=(--format zip --options zip:compression=store) ;;
+    tar.gz)     FORMAT=(--format pax --gzip) ;;
+    tar.xz)     FORMAT=(--format pax --xz) ;;
+    tar.zst)    FORMAT=(--format pax --zstd) ;;
+    *)          FORMAT=() ;;
+esac
+if [ $# -lt 2 ] || [ $# -gt 3 ] || [ ${#FORMAT[@]} -eq 0 ]; then
+    echo "usage: $0 <staged bundle folder> <output .vpk> [zip|zip-stored|tar.gz|tar.xz|tar.zst]" >&2
     exit 2
 fi
 STAGE="$1"
@@ -32,6 +41,5 @@ trap 'rm -f "$LIST" "$OUT.part"' EXIT
 ) > "$LIST"
 
 mkdir -p "$(dirname "$OUT")"
-bsdtar -c -n --format zip --options zip:compression=deflate \
-    -f "$OUT.part" -C "$STAGE" -T "$LIST"
+bsdtar -c -n "${FORMAT[@]}" -f "$OUT.part" -C "$STAGE" -T "$LIST"
 mv "$OUT.part" "$OUT"

@@ -1,0 +1,328 @@
+#!/usr/bin/env python3
+"""Measures what a user waits for when Drovia.app starts; bench/run.sh builds
+what it needs and calls it. Every run uses a copy of the built bundle and a
+temporary HOME below the work folder, never the real home.
+
+    bench.py <build folder> <work folder> [upgrade|launch|memory|gui|all] ...
+
+Results go to <work folder>/results: one TSV per benchmark, results.md with
+the tables and upgrade.png with the plot.
+"""
+import os
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import time
+
+FORMATS = ("tar.gz", "tar.xz", "tar.zst", "zip", "zip-stored")
+CHOSEN_FORMAT = "zip"          # what scripts/make-package.sh makes by default
+CLIENT_SHAPE = (250, 10000)    # unpacked MB, entries
+MEMORY_SHAPES = ((100, 4000), (1000, 40000))
+OLD_CLIENT_SHAPE = (1, 40)     # the older installation an upgrade replaces
+UPGRADE_PAIRS = 5
+LAUNCH_PAIRS = 21
+MEMORY_RUNS = 2
+GUI_RUNS = 3
+OLD_BUILD = "1"
+BUNDLE = "Drovia.app"
+INSTALLED = os.path.join(".Drovia", BUNDLE)
+MACOS = os.path.join("Contents", "MacOS")
+RESOURCES = os.path.join("Contents", "Resources")
+PACKAGE = os.path.join(RESOURCES, "package", "drovia.vpk")
+MIB = 1 << 20
+# Creating files right after mass deletions is slow on some file systems
+# (ext4 without a journal skips inodes freed in the last seconds), so every
+# timed run starts this long after the last clean-up.
+SETTLE_SECONDS = 6
+HERE = os.path.dirname(os.path.abspath(__file__))
+MAKE_TREE = os.path.join(HERE, "make-client-tree.py")
+MAKE_PACKAGE = os.path.join(HERE, "..", "scripts", "make-package.sh")
+
+
+class Paths:
+    def __init__(self, build, work):
+        self.build_bundle = os.path.join(build, BUNDLE)
+        self.helpers = os.path.join(build, "bench")
+        self.work = work
+        self.results = os.path.join(work, "results")
+        os.makedirs(self.results, exist_ok=True)
+
+
+def run_checked(args, **kwargs):
+    subprocess.run(args, check=True, **kwargs)
+
+
+def settle():
+    run_checked(["sync"])
+    time.sleep(SETTLE_SECONDS)
+
+
+def bundle_build(paths):
+    with open(os.path.join(paths.build_bundle, RESOURCES, "INFO")) as info:
+        return re.search(r"build_version=(\d+)", info.read()).group(1)
+
+
+def set_build(tree, build):
+    path = os.path.join(tree, RESOURCES, "INFO")
+    with open(path) as info:
+        text = info.read()
+    with open(path, "w") as info:
+        info.write(re.sub(r"build_version=\d+", "build_version=" + build, text))
+
+
+def tree_for(paths, shape):
+    megabytes, entries = shape
+    tree = os.path.join(paths.work, "trees", "%dM-%d" % shape, BUNDLE)
+    if not os.path.isdir(tree):
+        run_checked([sys.executable, MAKE_TREE, tree + ".part", str(megabytes), str(entries),
+                     bundle_build(paths)])
+        os.rename(tree + ".part", tree)
+    return tree
+
+
+def package_for(paths, shape, fmt):
+    package = os.path.join(paths.work, "packages", "%dM-%d.%s.vpk" % (shape + (fmt,)))
+    if not os.path.isfile(package):
+        run_checked([MAKE_PACKAGE, tree_for(paths, shape), package, fmt])
+    return package
+
+
+def unpacked_bytes(tree):
+    total = 0
+    for folder, _, files in os.walk(tree):
+        for name in files:
+            total += os.lstat(os.path.join(folder, name)).st_size
+    return total
+
+
+def timed(args, env=None):
+    """Wall seconds and peak resident KiB of one child that must succeed."""
+    start = time.perf_counter()
+    child = subprocess.Popen(args, env=env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    _, status, usage = os.wait4(child.pid, 0)
+    elapsed = time.perf_counter() - start
+    child.returncode = os.waitstatus_to_exitcode(status)
+    if child.returncode != 0:
+        raise RuntimeError("%s exited with %d" % (args[0], child.returncode))
+    return elapsed, usage.ru_maxrss
+
+
+class Sandbox:
+    """A copy of the built bundle carrying a given package, and a HOME."""
+
+    def __init__(self, paths, name, package):
+        self.root = os.path.join(paths.work, "run", name)
+        shutil.rmtree(self.root, ignore_errors=True)
+        self.bundle = os.path.join(self.root, BUNDLE)
+        shutil.copytree(paths.build_bundle, self.bundle, symlinks=True)
+        os.remove(os.path.join(self.bundle, PACKAGE))
+        os.link(package, os.path.join(self.bundle, PACKAGE))
+        for helper in ("bare-dialog", "gui-gap"):
+            shutil.copy2(os.path.join(paths.helpers, helper), os.path.join(self.bundle, MACOS))
+        self.package = package
+        self.home = os.path.join(self.root, "home")
+        self.installed = os.path.join(self.home, INSTALLED)
+        runtime = os.path.join(self.root, "runtime")
+        os.makedirs(runtime, mode=0o700)
+        self.env = dict(os.environ, HOME=self.home, QT_QPA_PLATFORM="offscreen",
+                        XDG_RUNTIME_DIR=runtime)
+        self.env.pop("DISPLAY", None)
+
+    def program(self, name):
+        return os.path.join(self.bundle, MACOS, name)
+
+    def install(self, build, tree=None):
+        """An installation under the given build: a copy of tree, or the
+        package's own content."""
+        shutil.rmtree(self.home, ignore_errors=True)
+        if tree:
+            shutil.copytree(tree, self.installed, symlinks=True)
+        else:
+            os.makedirs(self.installed)
+            run_checked(["bsdtar", "-xf", self.package, "-C", self.installed])
+        set_build(self.installed, build)
+        settle()
+
+    def installed_build(self):
+        with open(os.path.join(self.installed, RESOURCES, "INFO")) as info:
+            return re.search(r"build_version=(\d+)", info.read()).group(1)
+
+    def log_errors(self):
+        """Error lines of the launcher's log; a run without a log has none."""
+        log = os.path.join(self.home, ".Drovia", "log", "launcher.log")
+        if not os.path.exists(log):
+            return []
+        with open(log, errors="replace") as lines:
+            return [line for line in lines if "[ERROR]" in line]
+
+    def check_upgraded(self, build):
+        if self.installed_build() != build or self.log_errors():
+            raise RuntimeError("upgrade in %s failed: %s" % (self.root, self.log_errors()))
+
+    def run_launcher(self):
+        return timed([self.program("launcher")], self.env)
+
+    def run_bsdtar(self):
+        target = os.path.join(self.root, "bsdtar-out")
+        shutil.rmtree(target, ignore_errors=True)
+        os.makedirs(target)
+        settle()
+        return timed(["bsdtar", "-xf", self.package, "-C", target])
+
+    def remove(self):
+        shutil.rmtree(self.root, ignore_errors=True)
+
+
+def summary(values):
+    return statistics.median(values), min(values), max(values)
+
+
+def alternate(pairs, first, second):
+    """Runs the two alternately, swapping which goes first, and returns both lists."""
+    times = ([], [])
+    for index in range(pairs):
+        order = (0, 1) if index % 2 == 0 else (1, 0)
+        for which in order:
+            times[which].append((first, second)[which]())
+    return times
+
+
+def write_tsv(paths, name, header, rows):
+    with open(os.path.join(paths.results, name), "w") as out:
+        out.write("\t".join(header) + "\n")
+        for row in rows:
+            out.write("\t".join(str(value) for value in row) + "\n")
+
+
+UPGRADE_HEADER = ("format", "unpacked", "package", "launcher_med", "launcher_min", "launcher_max",
+                  "bsdtar_med", "bsdtar_min", "bsdtar_max", "ratio_med", "ratio_min", "ratio_max")
+
+
+def upgrade_row(paths, fmt, old_tree, label):
+    """Times the launcher's upgrade over old_tree (None: an installation as
+    large as the package) against bsdtar unpacking the same package."""
+    build = bundle_build(paths)
+    package = package_for(paths, CLIENT_SHAPE, fmt)
+    box = Sandbox(paths, "upgrade", package)
+
+    def launcher_run():
+        box.install(OLD_BUILD, old_tree)
+        elapsed = box.run_launcher()[0]
+        box.check_upgraded(build)
+        return elapsed
+
+    launcher, bsdtar = alternate(UPGRADE_PAIRS, launcher_run, lambda: box.run_bsdtar()[0])
+    ratios = [a / b for a, b in zip(launcher, bsdtar)]
+    box.remove()
+    row = ((label, unpacked_bytes(tree_for(paths, CLIENT_SHAPE)), os.path.getsize(package))
+           + summary(launcher) + summary(bsdtar) + summary(ratios))
+    print("upgrade", row, flush=True)
+    return row
+
+
+def bench_upgrade(paths):
+    old_tree = tree_for(paths, OLD_CLIENT_SHAPE)
+    rows = [upgrade_row(paths, fmt, old_tree, fmt) for fmt in FORMATS]
+    write_tsv(paths, "upgrade.tsv", UPGRADE_HEADER, rows)
+    plot_upgrade(paths)
+    # Replacing a full-size installation also deletes it, which bsdtar never does.
+    write_tsv(paths, "upgrade-full-old.tsv", UPGRADE_HEADER,
+              [upgrade_row(paths, CHOSEN_FORMAT, None, CHOSEN_FORMAT + " over a full-size installation")])
+
+
+def bench_launch(paths):
+    box = Sandbox(paths, "launch", package_for(paths, CLIENT_SHAPE, CHOSEN_FORMAT))
+    box.install(bundle_build(paths))
+    launcher, bare = alternate(LAUNCH_PAIRS, lambda: box.run_launcher()[0],
+                               lambda: timed([box.program("bare-dialog")], box.env)[0])
+    if box.log_errors():
+        raise RuntimeError("no-upgrade run logged errors: %s" % box.log_errors())
+    ratios = [a / b for a, b in zip(launcher, bare)]
+    rows = [summary(launcher) + summary(bare) + summary(ratios)]
+    box.remove()
+    print("launch", rows[0], flush=True)
+    write_tsv(paths, "launch.tsv",
+              ("launcher_med", "launcher_min", "launcher_max", "bare_med", "bare_min", "bare_max",
+               "ratio_med", "ratio_min", "ratio_max"), rows)
+
+
+def bench_memory(paths):
+    build = bundle_build(paths)
+    rows = []
+    for shape in MEMORY_SHAPES:
+        package = package_for(paths, shape, CHOSEN_FORMAT)
+        box = Sandbox(paths, "memory", package)
+        peaks = []
+        for _ in range(MEMORY_RUNS):
+            box.install(OLD_BUILD, tree_for(paths, OLD_CLIENT_SHAPE))
+            peaks.append(box.run_launcher()[1])
+            box.check_upgraded(build)
+        rows.append(shape + (os.path.getsize(package),) + summary(peaks))
+        box.remove()
+        # The large trees cost gigabytes; only the client-shaped one is kept.
+        shutil.rmtree(os.path.dirname(tree_for(paths, shape)))
+        os.remove(package)
+        print("memory", rows[-1], flush=True)
+    write_tsv(paths, "memory.tsv",
+              ("unpacked_mb", "entries", "package", "peak_kib_med", "peak_kib_min", "peak_kib_max"),
+              rows)
+
+
+def bench_gui(paths):
+    build = bundle_build(paths)
+    box = Sandbox(paths, "gui", package_for(paths, CLIENT_SHAPE, CHOSEN_FORMAT))
+    rows = []
+    for _ in range(GUI_RUNS):
+        box.install(OLD_BUILD, tree_for(paths, OLD_CLIENT_SHAPE))
+        # Without a log file the harness logs to standard error.
+        run = subprocess.run([box.program("gui-gap")], env=box.env, check=True,
+                             capture_output=True, text=True)
+        box.check_upgraded(build)
+        if "[ERROR]" in run.stderr:
+            raise RuntimeError("gui-gap run failed: " + run.stderr)
+        output = run.stdout
+        fields = dict(re.findall(r"(\w+) ([\d.]+)", output.splitlines()[-1]))
+        rows.append((fields["ticks"], fields["p50_ms"], fields["p99_ms"], fields["max_ms"]))
+        print("gui", rows[-1], flush=True)
+    box.remove()
+    write_tsv(paths, "gui.tsv", ("ticks", "p50_ms", "p99_ms", "max_ms"), rows)
+
+
+def plot_upgrade(paths):
+    data = os.path.join(paths.results, "upgrade.tsv")
+    script = """
+set terminal pngcairo size 800,480
+set output '{out}'
+set title 'Upgrade of a 10,000-entry, 250 MB client (median of {pairs} runs)'
+set ylabel 'seconds'
+set yrange [0:*]
+set style data histograms
+set style histogram clustered gap 1
+set style fill solid 0.8 border -1
+set key top left
+plot '{data}' using 4:xtic(1) title 'launcher (whole run)', '' using 7 title 'bsdtar -xf'
+""".format(out=os.path.join(paths.results, "upgrade.png"), data=data, pairs=UPGRADE_PAIRS)
+    run_checked(["gnuplot"], input=script, text=True)
+
+
+BENCHMARKS = {"upgrade": bench_upgrade, "launch": bench_launch, "memory": bench_memory,
+              "gui": bench_gui}
+
+
+def main():
+    if len(sys.argv) < 3:
+        sys.exit(__doc__)
+    paths = Paths(os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2]))
+    names = sys.argv[3:] or ["all"]
+    if "all" in names:
+        names = list(BENCHMARKS)
+    for name in names:
+        if name not in BENCHMARKS:
+            sys.exit("bench: unknown benchmark %s" % name)
+        BENCHMARKS[name](paths)
+
+
+if __name__ == "__main__":
+    main()
