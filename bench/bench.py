@@ -22,6 +22,7 @@ CLIENT_SHAPE = (250, 10000)    # unpacked MB, entries
 MEMORY_SHAPES = ((100, 4000), (1000, 40000))
 OLD_CLIENT_SHAPE = (1, 40)     # the older installation an upgrade replaces
 UPGRADE_PAIRS = 5
+FULL_OLD_PAIRS = 3
 LAUNCH_PAIRS = 21
 MEMORY_RUNS = 2
 GUI_RUNS = 3
@@ -98,7 +99,8 @@ def unpacked_bytes(tree):
 
 
 def timed(args, env=None):
-    """Wall seconds and peak resident KiB of one child that must succeed."""
+    """Wall seconds, CPU seconds (user and system) and peak resident KiB of
+    one child that must succeed."""
     start = time.perf_counter()
     child = subprocess.Popen(args, env=env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     _, status, usage = os.wait4(child.pid, 0)
@@ -106,7 +108,7 @@ def timed(args, env=None):
     child.returncode = os.waitstatus_to_exitcode(status)
     if child.returncode != 0:
         raise RuntimeError("%s exited with %d" % (args[0], child.returncode))
-    return elapsed, usage.ru_maxrss
+    return elapsed, usage.ru_utime + usage.ru_stime, usage.ru_maxrss
 
 
 class Sandbox:
@@ -197,10 +199,11 @@ def write_tsv(paths, name, header, rows):
 
 
 UPGRADE_HEADER = ("format", "unpacked", "package", "launcher_med", "launcher_min", "launcher_max",
-                  "bsdtar_med", "bsdtar_min", "bsdtar_max", "ratio_med", "ratio_min", "ratio_max")
+                  "bsdtar_med", "bsdtar_min", "bsdtar_max", "ratio_med", "ratio_min", "ratio_max",
+                  "launcher_cpu_med", "bsdtar_cpu_med")
 
 
-def upgrade_row(paths, fmt, old_tree, label):
+def upgrade_row(paths, fmt, old_tree, label, pairs=UPGRADE_PAIRS):
     """Times the launcher's upgrade over old_tree (None: an installation as
     large as the package) against bsdtar unpacking the same package."""
     build = bundle_build(paths)
@@ -209,15 +212,18 @@ def upgrade_row(paths, fmt, old_tree, label):
 
     def launcher_run():
         box.install(OLD_BUILD, old_tree)
-        elapsed = box.run_launcher()[0]
+        measured = box.run_launcher()
         box.check_upgraded(build)
-        return elapsed
+        return measured
 
-    launcher, bsdtar = alternate(UPGRADE_PAIRS, launcher_run, lambda: box.run_bsdtar()[0])
-    ratios = [a / b for a, b in zip(launcher, bsdtar)]
+    launcher, bsdtar = alternate(pairs, launcher_run, box.run_bsdtar)
+    wall = ([run[0] for run in launcher], [run[0] for run in bsdtar])
+    cpu = ([run[1] for run in launcher], [run[1] for run in bsdtar])
+    ratios = [a / b for a, b in zip(*wall)]
     box.remove()
     row = ((label, unpacked_bytes(tree_for(paths, CLIENT_SHAPE)), os.path.getsize(package))
-           + summary(launcher) + summary(bsdtar) + summary(ratios))
+           + summary(wall[0]) + summary(wall[1]) + summary(ratios)
+           + (statistics.median(cpu[0]), statistics.median(cpu[1])))
     print("upgrade", row, flush=True)
     return row
 
@@ -229,23 +235,26 @@ def bench_upgrade(paths):
     plot_upgrade(paths)
     # Replacing a full-size installation also deletes it, which bsdtar never does.
     write_tsv(paths, "upgrade-full-old.tsv", UPGRADE_HEADER,
-              [upgrade_row(paths, CHOSEN_FORMAT, None, CHOSEN_FORMAT + " over a full-size installation")])
+              [upgrade_row(paths, CHOSEN_FORMAT, None, CHOSEN_FORMAT + " over a full-size installation",
+                           FULL_OLD_PAIRS)])
 
 
 def bench_launch(paths):
     box = Sandbox(paths, "launch", package_for(paths, CLIENT_SHAPE, CHOSEN_FORMAT))
     box.install(bundle_build(paths))
-    launcher, bare = alternate(LAUNCH_PAIRS, lambda: box.run_launcher()[0],
-                               lambda: timed([box.program("bare-dialog")], box.env)[0])
+    launcher, bare = alternate(LAUNCH_PAIRS, box.run_launcher,
+                               lambda: timed([box.program("bare-dialog")], box.env))
     if box.log_errors():
         raise RuntimeError("no-upgrade run logged errors: %s" % box.log_errors())
-    ratios = [a / b for a, b in zip(launcher, bare)]
-    rows = [summary(launcher) + summary(bare) + summary(ratios)]
+    wall = ([run[0] for run in launcher], [run[0] for run in bare])
+    ratios = [a / b for a, b in zip(*wall)]
+    rows = [summary(wall[0]) + summary(wall[1]) + summary(ratios)
+            + (statistics.median(run[1] for run in launcher), statistics.median(run[1] for run in bare))]
     box.remove()
     print("launch", rows[0], flush=True)
     write_tsv(paths, "launch.tsv",
               ("launcher_med", "launcher_min", "launcher_max", "bare_med", "bare_min", "bare_max",
-               "ratio_med", "ratio_min", "ratio_max"), rows)
+               "ratio_med", "ratio_min", "ratio_max", "launcher_cpu_med", "bare_cpu_med"), rows)
 
 
 def bench_memory(paths):
@@ -257,7 +266,7 @@ def bench_memory(paths):
         peaks = []
         for _ in range(MEMORY_RUNS):
             box.install(OLD_BUILD, tree_for(paths, OLD_CLIENT_SHAPE))
-            peaks.append(box.run_launcher()[1])
+            peaks.append(box.run_launcher()[2])
             box.check_upgraded(build)
         rows.append(shape + (os.path.getsize(package),) + summary(peaks))
         box.remove()
