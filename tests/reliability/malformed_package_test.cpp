@@ -7,6 +7,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <functional>
+#include <map>
 #include <iostream>
 #include <memory>
 #include <random>
@@ -156,16 +158,28 @@ protected:
         return MakeArchive(GetParam().format, GetParam().filter, entries);
     }
 
+    const std::string& Cached(const std::string& key, const std::function<std::string()>& make);
     std::string Variant(Damage damage, std::mt19937& random, std::string& inserted_name);
     void ExpectNothingEscaped(const std::string& context) const;
 
     TreeSnapshot old_tree;
+    std::map<std::string, std::string> archives;
 };
+
+// Compressing is the slow part (xz above all, under the sanitizers), and
+// the variants share few distinct archives, so each is made once.
+const std::string& MalformedPackage::Cached(const std::string& key, const std::function<std::string()>& make)
+{
+    auto found = archives.find(key);
+    if (found == archives.end())
+        found = archives.emplace(key, make()).first;
+    return found->second;
+}
 
 std::string MalformedPackage::Variant(Damage damage, std::mt19937& random, std::string& inserted_name)
 {
     std::vector<TestEntry> entries = PackageEntries();
-    std::string bytes = Archive(entries);
+    std::string bytes = Cached("whole", [&] { return Archive(entries); });
     switch (damage) {
     case TRUNCATED:
         bytes.resize(1 + random() % (bytes.size() - 1));
@@ -186,16 +200,19 @@ std::string MalformedPackage::Variant(Damage damage, std::mt19937& random, std::
                                                : QDir(QDir(Home()).absoluteFilePath(kEscapeName)).path().toStdString();
         const size_t at = random() % entries.size();
         entries.insert(entries.begin() + static_cast<long>(at), TestEntry{inserted_name, "outside"});
-        bytes = Archive(entries);
+        bytes = Cached(inserted_name + "@" + std::to_string(at), [&] { return Archive(entries); });
         break;
     }
     case HUGE_SIZE:
         if (GetParam().format == ARCHIVE_FORMAT_ZIP) {
             ClaimHugeZipSizes(bytes);
         } else {
-            std::string tar = MakeArchive(GetParam().format, ARCHIVE_FILTER_NONE, entries);
-            ClaimHugeTarSize(tar, entries[3 + random() % 4].name);
-            bytes = Filtered(tar, GetParam().filter);
+            const std::string& name = entries[3 + random() % 4].name;
+            bytes = Cached("huge " + name, [&] {
+                std::string tar = MakeArchive(GetParam().format, ARCHIVE_FILTER_NONE, entries);
+                ClaimHugeTarSize(tar, name);
+                return Filtered(tar, GetParam().filter);
+            });
         }
         break;
     case DAMAGE_KINDS:
@@ -216,7 +233,7 @@ void MalformedPackage::ExpectNothingEscaped(const std::string& context) const
 
 TEST_P(MalformedPackage, FailuresLeaveTheOldInstallation)
 {
-    if (Archive(PackageEntries()).empty())
+    if (Cached("whole", [this] { return Archive(PackageEntries()); }).empty())
         GTEST_SKIP() << "this libarchive cannot write " << GetParam().name;
     std::mt19937 random(GetParam().seed);
     int accepted = 0;
