@@ -9,53 +9,35 @@
 
 #include <memory>
 
-namespace {
-
-struct WriterFree {
-    void operator()(archive* writer) const { archive_write_free(writer); }
-};
-
-la_ssize_t AppendToString(archive*, void* sink, const void* buffer, size_t size)
-{
-    static_cast<std::string*>(sink)->append(static_cast<const char*>(buffer), size);
-    return static_cast<la_ssize_t>(size);
-}
-
-bool WriteEntry(archive* writer, const TestEntry& item)
-{
-    std::unique_ptr<archive_entry, decltype(&archive_entry_free)> entry(archive_entry_new(),
-                                                                       archive_entry_free);
-    archive_entry_set_pathname(entry.get(), item.name.c_str());
-    archive_entry_set_filetype(entry.get(), item.folder ? AE_IFDIR : AE_IFREG);
-    archive_entry_set_perm(entry.get(), item.folder ? 0755 : 0644);
-    archive_entry_set_size(entry.get(), item.folder ? 0 : item.content.size());
-    if (archive_write_header(writer, entry.get()) != ARCHIVE_OK)
-        return false;
-    if (item.folder || item.content.empty())
-        return true;
-    const la_ssize_t written = archive_write_data(writer, item.content.data(), item.content.size());
-    return written == static_cast<la_ssize_t>(item.content.size());
-}
-
-}  // namespace
+QString LogCapture::path;
 
 std::string MakeArchive(int format, int filter, const std::vector<TestEntry>& entries)
 {
     std::string bytes;
-    std::unique_ptr<archive, WriterFree> writer(archive_write_new());
-    if (archive_write_set_format(writer.get(), format) != ARCHIVE_OK ||
-        archive_write_add_filter(writer.get(), filter) != ARCHIVE_OK ||
-        // No zero padding after the data: the zstd reader takes it for a frame.
-        archive_write_set_bytes_in_last_block(writer.get(), 1) != ARCHIVE_OK ||
-        archive_write_open(writer.get(), &bytes, nullptr, AppendToString, nullptr) != ARCHIVE_OK)
-        return std::string();
-    for (const TestEntry& item : entries) {
-        if (!WriteEntry(writer.get(), item))
-            return std::string();
+    const auto append = [](archive*, void* sink, const void* data, size_t size) -> la_ssize_t {
+        static_cast<std::string*>(sink)->append(static_cast<const char*>(data), size);
+        return static_cast<la_ssize_t>(size);
+    };
+    std::unique_ptr<archive, decltype(&archive_write_free)> writer(archive_write_new(),
+                                                                   archive_write_free);
+    std::unique_ptr<archive_entry, decltype(&archive_entry_free)> entry(archive_entry_new(),
+                                                                       archive_entry_free);
+    bool ok = archive_write_set_format(writer.get(), format) == ARCHIVE_OK &&
+              archive_write_add_filter(writer.get(), filter) == ARCHIVE_OK &&
+              // No zero padding after the data: the zstd reader takes it for a frame.
+              archive_write_set_bytes_in_last_block(writer.get(), 1) == ARCHIVE_OK &&
+              archive_write_open(writer.get(), &bytes, nullptr, append, nullptr) == ARCHIVE_OK;
+    for (auto item = entries.begin(); ok && item != entries.end(); ++item) {
+        archive_entry_clear(entry.get());
+        archive_entry_set_pathname(entry.get(), item->name.c_str());
+        archive_entry_set_mode(entry.get(), item->folder ? AE_IFDIR | 0755 : AE_IFREG | 0644);
+        const size_t size = item->folder ? 0 : item->content.size();
+        archive_entry_set_size(entry.get(), static_cast<la_int64_t>(size));
+        ok = archive_write_header(writer.get(), entry.get()) == ARCHIVE_OK &&
+             (size == 0 || archive_write_data(writer.get(), item->content.data(), size) ==
+                               static_cast<la_ssize_t>(size));
     }
-    if (archive_write_close(writer.get()) != ARCHIVE_OK)
-        return std::string();
-    return bytes;
+    return ok && archive_write_close(writer.get()) == ARCHIVE_OK ? bytes : std::string();
 }
 
 std::string MakeDamagedTar(const std::vector<TestEntry>& entries, size_t index)
@@ -71,16 +53,19 @@ std::string MakeDamagedTar(const std::vector<TestEntry>& entries, size_t index)
 bool WriteBytes(const QString& path, const std::string& bytes)
 {
     QFile file(path);
-    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly))
-        return false;
-    return file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-           static_cast<qint64>(bytes.size());
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
+           file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
+               static_cast<qint64>(bytes.size());
 }
 
 std::string ReadBytes(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::string();
-    return file.readAll().toStdString();
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+std::string LogCapture::Text() const
+{
+    const std::string text = ReadBytes(path);
+    return start < text.size() ? text.substr(start) : std::string();
 }

@@ -12,15 +12,23 @@ struct TestEntry {
     bool folder = false;
 };
 
-// The bytes of an archive of entries, written by libarchive in the given
-// format and filter codes; empty when the library cannot write that pair.
+// Written by libarchive; empty when this build cannot write the pair.
 std::string MakeArchive(int format, int filter, const std::vector<TestEntry>& entries);
-
-// A plain tar of entries whose header of entry index is corrupted.
+// A plain tar whose header of entry index fails its checksum.
 std::string MakeDamagedTar(const std::vector<TestEntry>& entries, size_t index);
 
-// Writes bytes to path, creating the parent folders. False on failure.
+// Creates the parent folders; false on failure.
 bool WriteBytes(const QString& path, const std::string& bytes);
 std::string ReadBytes(const QString& path);
+
+// What the service and extractor components logged since the capture was made.
+class LogCapture {
+public:
+    static QString path;  // set by main()
+    std::string Text() const;
+
+private:
+    size_t start = ReadBytes(path).size();
+};
 
 #endif  // TEST_ARCHIVE_H

@@ -5,8 +5,9 @@
 
 #include <cstdlib>
 
+#include "log.h"
 #include "strtable.h"
-#include "test-log.h"
+#include "test-archive.h"
 
 // The toolkit reads HOME, so it points into a scratch folder before the
 // application object exists; tests never see the real home folder.
@@ -18,7 +19,11 @@ int main(int argc, char** argv)
         return 1;
     QCoreApplication application(argc, argv);
     StrTable::InitStrTable();
-    if (!StartTestLog(scratch.path()))
+    const QString levels = scratch.path() + "/levels";
+    LogCapture::path = scratch.path() + "/test.log";
+    if (!WriteBytes(levels, "service_debug=7\nextractor_debug=7\n") ||
+        Logger::Initialize(Logger::TYPE_FILE, LogCapture::path.toUtf8().constData(),
+                           levels.toUtf8().constData(), 50) != 0)
         return 1;
     return RUN_ALL_TESTS();
 }

@@ -4,46 +4,44 @@
 #include <gtest/gtest.h>
 
 #include <QByteArray>
+#include <QDir>
 #include <QString>
 #include <QTemporaryDir>
 
 #include <string>
 
 #include "mac/mac-service.h"
-#include "test-log.h"
-#include "ustring.h"
+#include "test-archive.h"
 
-// A MacService whose state the tests may read.
-class ExposedService : public MacService {
-public:
-    using Service::source_build_version;
-    using Service::source_major_version;
-    using Service::target_icon_overlay_version;
-    using Service::target_major_version;
-    using Service::timeout;
-    using Service::user_app_path;
-};
+using ExposedService = MacService;  // the name the reliability tests know it by
 
-// Every test gets a home folder of its own. The bundle is the folder the
-// test executable sits in (Drovia.app/Contents/MacOS); tests that write its
-// version file or package lock it first, as test processes run side by side.
+// Every test gets a home folder of its own, with a name that is not ASCII.
+// The bundle is the folder the test executable sits in
+// (Drovia.app/Contents/MacOS); tests that write its version file or package
+// lock it first, as test processes run side by side.
 class ServiceTest : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    void SetHome(const QString& path);
     // Locks the bundle and empties its resource folder.
     void UseBundle();
-    void WriteBundleVersion(const std::string& info);
-    void WritePackage(const std::string& archive_bytes);
+    void WriteBundleVersion(const std::string& info)
+    {
+        ASSERT_TRUE(WriteBytes(BundleResources() + "/INFO", info));
+    }
+    void WritePackage(const std::string& archive)
+    {
+        ASSERT_FALSE(archive.empty());
+        ASSERT_TRUE(WriteBytes(BundleResources() + "/package/drovia.vpk", archive));
+    }
 
     QString Home() const { return home.path(); }
     QString UserApp() const { return Home() + "/.Drovia/Drovia.app"; }
     QString UserClient() const { return UserApp() + "/Contents/MacOS/cloud-ui"; }
-    QString BundleResources() const;
+    static QString BundleResources();
 
-    QTemporaryDir home;
+    QTemporaryDir home{QDir::tempPath() + QString::fromUtf8("/J\xC3\xB6rg \xC3\x9C-XXXXXX")};
     LogCapture log;
 
 private:
@@ -51,9 +49,10 @@ private:
     int bundle_lock = -1;
 };
 
-QString ToQString(const ustring& text);
 // A version file whose group "Version" holds the given lines.
-std::string VersionFile(const std::string& lines);
-size_t CountOf(const std::string& text, const std::string& part);
+inline std::string VersionFile(const std::string& lines)
+{
+    return "[Version]\n" + lines + "\n";
+}
 
 #endif  // SERVICE_FIXTURE_H
