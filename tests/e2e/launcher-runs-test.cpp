@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QFileInfo>
-#include <QList>
-#include <QPair>
+#include <QRegularExpression>
+#include <QStandardPaths>
 
 #include "launcher-sandbox.h"
 
@@ -24,68 +25,14 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToUpgrade)
     EXPECT_TRUE(backupFolders().isEmpty());
     EXPECT_EQ(startedClients(1), QStringList({"new"}));
     const QStringList first_log = logMessages();
-    EXPECT_EQ(first_log.first(), "launcher: running");
-    EXPECT_EQ(first_log.last(), "launcher: done");
     EXPECT_FALSE(first_log.contains("launcher: no need to upgrade"));
+    EXPECT_EQ(first_log.value(first_log.size() - 1), "launcher: done");
 
-    const LauncherRun second = runLauncher();
-    EXPECT_EQ(second.exit_code, 0);
+    EXPECT_EQ(runLauncher().exit_code, 0);
     const QStringList second_log = logMessages().mid(first_log.size());
     EXPECT_TRUE(second_log.contains("launcher: no need to upgrade"));
     EXPECT_FALSE(second_log.join('\n').contains("extract package"));
     EXPECT_EQ(startedClients(2), QStringList({"new", "new"}));
-}
-
-TEST_F(LauncherRuns, UpgradeStopsTheRunningClientFirst)
-{
-    if (!pidNamespaceAvailable())
-        GTEST_SKIP() << "unshare cannot create a PID namespace here";
-    installForUser(4, "old");
-    shipInBundle(5, "new");
-
-    const QMap<QString, QString> results = runInPidNamespace(R"sh(
-sleep 30 &
-client=$!
-echo "pid=$client" > "$HOME/.Drovia/ui.pid"
-"$LAUNCHER" > /dev/null 2>&1
-echo "launcher=$?"
-wait $client
-echo "client=$?"
-while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
-)sh");
-
-    EXPECT_EQ(results.value("launcher"), "0");
-    EXPECT_EQ(results.value("client"), "143") << "the client should end by SIGTERM";
-    EXPECT_EQ(installedBuild(), "5");
-    EXPECT_TRUE(backupFolders().isEmpty());
-    EXPECT_EQ(startedClients(1), QStringList({"new"}));
-    EXPECT_TRUE(logMessages().contains("mac/mac-service: local appdata exist"));
-}
-
-// The package the build made, with the real demo client, which must write
-// its pid file and leave cleanly, removing it, when asked to stop.
-TEST_F(LauncherRuns, BuiltPackageStartsTheDemoClient)
-{
-    if (!pidNamespaceAvailable())
-        GTEST_SKIP() << "unshare cannot create a PID namespace here";
-    shipBuiltPackage();
-
-    const QMap<QString, QString> results = runInPidNamespace(R"sh(
-"$LAUNCHER" > /dev/null 2>&1
-echo "launcher=$?"
-pid_file="$HOME/.Drovia/ui.pid"
-for i in $(seq 100); do [ -s "$pid_file" ] && break; sleep 0.1; done
-pid=$(sed -n 's/^pid=\([0-9][0-9]*\)$/\1/p' "$pid_file")
-[ -n "$pid" ] || exit 0
-echo "client=$(readlink /proc/$pid/exe)"
-kill -TERM "$pid"
-for i in $(seq 100); do [ -e "$pid_file" ] || break; sleep 0.1; done
-[ -e "$pid_file" ] && echo "pid_file=left" || echo "pid_file=removed"
-)sh");
-
-    EXPECT_EQ(results.value("launcher"), "0");
-    EXPECT_EQ(results.value("client"), userPath("Drovia.app/Contents/MacOS/cloud-ui"));
-    EXPECT_EQ(results.value("pid_file"), "removed");
 }
 
 TEST_F(LauncherRuns, FailedUpgradeRollsBackAndStartsTheOldClient)
@@ -93,47 +40,13 @@ TEST_F(LauncherRuns, FailedUpgradeRollsBackAndStartsTheOldClient)
     installForUser(4, "old");
     shipDamagedPackage(5);
 
-    const LauncherRun run = runLauncher();
-
-    EXPECT_EQ(run.exit_code, 0);
+    EXPECT_EQ(runLauncher().exit_code, 0);
     EXPECT_EQ(installedBuild(), "4");
     EXPECT_TRUE(backupFolders().isEmpty());
     EXPECT_EQ(startedClients(1), QStringList({"old"}));
     const QStringList log = logMessages();
     EXPECT_TRUE(log.contains("cloud-service: Failed to extract package, rollback to old installation"));
-    EXPECT_TRUE(log.contains("launcher: Failed to upgrade package"));
-    EXPECT_EQ(log.last(), "launcher: done");
-}
-
-// The first launcher spends a few seconds waiting for a client that takes
-// its time to exit; a second launcher started meanwhile must leave at once.
-TEST_F(LauncherRuns, SecondInstanceLeavesWhileTheFirstRuns)
-{
-    if (!pidNamespaceAvailable())
-        GTEST_SKIP() << "unshare cannot create a PID namespace here";
-    installForUser(4, "old");
-    shipInBundle(5, "new");
-
-    const QMap<QString, QString> results = runInPidNamespace(R"sh(
-( trap 'sleep 2; exit 0' TERM; while true; do sleep 1; done ) &
-echo "pid=$!" > "$HOME/.Drovia/ui.pid"
-"$LAUNCHER" > /dev/null 2>&1 &
-first=$!
-until grep -q "local appdata exist" "$LOG" 2>/dev/null; do sleep 0.05; done
-"$LAUNCHER" > second.out 2>&1
-echo "second=$?"
-wait $first
-echo "first=$?"
-while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
-)sh");
-
-    EXPECT_EQ(results.value("second"), "0");
-    EXPECT_EQ(results.value("first"), "0");
-    EXPECT_EQ(installedBuild(), "5");
-    EXPECT_EQ(startedClients(1), QStringList({"new"}));
-    const QStringList log = logMessages();
-    EXPECT_EQ(log.count("main: app has already launched, return"), 1);
-    EXPECT_EQ(log.count("launcher: running"), 1);
+    EXPECT_EQ(log.value(log.size() - 1), "launcher: done");
 }
 
 TEST_F(LauncherRuns, UnwritableLogFolderSendsMessagesToStandardError)
@@ -142,41 +55,115 @@ TEST_F(LauncherRuns, UnwritableLogFolderSendsMessagesToStandardError)
     shipDamagedPackage(5);
 
     const LauncherRun run = runLauncher();
-
     EXPECT_EQ(run.exit_code, 0);
     const QStringList messages = messagesIn(run.err);
     EXPECT_TRUE(messages.contains("launcher: Failed to upgrade package")) << run.err.toStdString();
     EXPECT_FALSE(messages.contains("launcher: running")) << "the level file is read only with a log file";
-    EXPECT_TRUE(QFileInfo(userPath("log")).isFile());
 }
 
 // The language module reports its choice on the toolkit's debug channel.
 TEST_F(LauncherRuns, LanguageFollowsTheSystemLocale)
 {
     shipInBundle(5, "new");
-    const auto catalogued = [](const QString& code) {
-        return QFileInfo::exists(QString(DROVIA_CATALOGUE_DIR "/%1.qm").arg(code))
-                   ? code
-                   : QStringLiteral("enu");
+    const auto catalogued = [](const char* code) {
+        return QFileInfo::exists(DROVIA_CATALOGUE_DIR "/" + QString(code) + ".qm") ? code : "enu";
     };
-    const QList<QPair<QStringList, QString>> cases = {
-        {{"LC_ALL", "de_AT.UTF-8"}, catalogued("deu")},
-        {{"LANG", "pt_PT.UTF-8"}, catalogued("ptg")},
-        {{"LANG", "zh_TW.UTF-8"}, catalogued("cht")},
-        {{"LANG", "fi_FI.UTF-8"}, "enu"},
-        {{"LC_ALL", "C"}, "enu"},
-    };
-    for (const auto& [setting, expected] : cases) {
+    const struct {
+        const char* name;
+        const char* value;
+        const char* language;
+    } cases[] = {{"LC_ALL", "de_AT.UTF-8", catalogued("deu")},
+                 {"LANG", "pt_PT.UTF-8", catalogued("ptg")},
+                 {"LANG", "fi_FI.UTF-8", "enu"}};
+    for (const auto& c : cases) {
         QProcessEnvironment env = environment();
         env.remove("LC_ALL");
         env.remove("LANG");
-        env.insert(setting.at(0), setting.at(1));
+        env.insert(c.name, c.value);
         const LauncherRun run = runLauncher(env);
         EXPECT_EQ(run.exit_code, 0);
-        EXPECT_TRUE(run.err.contains("qPrintable(qstrDef)=[" + expected + "\n]"))
-            << setting.join('=').toStdString() << " should choose " << expected.toStdString() << "\n"
-            << run.err.toStdString();
+        EXPECT_TRUE(run.err.contains(QString("qPrintable(qstrDef)=[%1\n]").arg(c.language)))
+            << c.value << " should choose " << c.language << "\n" << run.err.toStdString();
     }
+}
+
+// The old client takes two seconds to leave after SIGTERM; a second launcher
+// started meanwhile must leave at once.
+const char kUpgradeOverRunningClient[] = R"sh(
+( trap 'echo TERM > "$HOME/.Drovia/stopped"; sleep 2; exit 0' TERM; while true; do sleep 1; done ) &
+echo "pid=$!" > "$HOME/.Drovia/ui.pid"
+"$LAUNCHER" > launcher.out 2>&1 &
+first=$!
+until grep -q "local appdata exist" "$LOG" 2>/dev/null; do sleep 0.05; done
+"$LAUNCHER" > /dev/null 2>&1
+echo "second=$?"
+wait $first
+echo "first=$?"
+while [ ! -s "$HOME/.Drovia/started" ]; do sleep 0.1; done
+)sh";
+
+class UpgradeOverRunningClient : public LauncherSandbox {
+protected:
+    void run(const QProcessEnvironment& env, const std::function<void()>& meanwhile)
+    {
+        if (!pidNamespaceAvailable())
+            GTEST_SKIP() << "unshare cannot create a PID namespace here";
+        installForUser(4, "old");
+        shipInBundle(5, "new");
+        QProcess script;
+        startInPidNamespace(script, kUpgradeOverRunningClient, env);
+        meanwhile();
+        const QMap<QString, QString> results = finish(script);
+        EXPECT_EQ(results.value("first"), "0") << readFile(sandbox.filePath("launcher.out")).toStdString();
+        EXPECT_EQ(results.value("second"), "0");
+        EXPECT_EQ(readFile(userPath("stopped")), "TERM\n");
+        EXPECT_EQ(installedBuild(), "5");
+        EXPECT_TRUE(backupFolders().isEmpty());
+        EXPECT_EQ(startedClients(1), QStringList({"new"}));
+        const QStringList log = logMessages();
+        EXPECT_EQ(log.count("main: app has already launched, return"), 1);
+        EXPECT_EQ(log.count("launcher: running"), 1);
+    }
+};
+
+TEST_F(UpgradeOverRunningClient, StopsItFirstWhileASecondInstanceLeaves)
+{
+    run(environment(), [] {});
+}
+
+// Under a real X server the progress dialog must be on screen, with its title,
+// while the old client stops.
+TEST_F(UpgradeOverRunningClient, ShowsTheDialogUnderX)
+{
+    for (const char* tool : {"Xvfb", "xwininfo", "import"})
+        if (QStandardPaths::findExecutable(tool).isEmpty())
+            GTEST_SKIP() << tool << " is not installed";
+    QProcess xvfb;  // picks a free display itself and reports it
+    xvfb.start("Xvfb", {"-displayfd", "1", "-nolisten", "tcp", "-screen", "0", "800x600x24"});
+    ASSERT_TRUE(xvfb.waitForStarted() && xvfb.waitForReadyRead());
+    const QString display = ":" + QString::fromLatin1(xvfb.readLine().trimmed());
+    const auto windowTree = [&display] {
+        QProcess xwininfo;
+        xwininfo.start("xwininfo", {"-display", display, "-root", "-tree"});
+        xwininfo.waitForFinished();
+        return QString::fromUtf8(xwininfo.readAllStandardOutput());
+    };
+    QProcessEnvironment env = environment();
+    env.insert("QT_QPA_PLATFORM", "xcb");
+    env.insert("DISPLAY", display);
+
+    run(env, [&] {
+        // "0x400007 "Velmora Drovia": ("launcher" "launcher")  400x97+0+0  +0+0"
+        const QRegularExpression dialog(R"("Velmora Drovia": \("launcher" [^)]*\)\s+400x\d+)");
+        const bool shown = waitUntil([&] { return dialog.match(windowTree()).hasMatch(); }, 4000);
+        ASSERT_TRUE(shown) << windowTree().toStdString();
+        const QString screenshot = E2E_ARTIFACT_DIR "/upgrade-dialog.png";
+        QFile::remove(screenshot);
+        EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", "root", screenshot}), 0);
+        EXPECT_GT(QFileInfo(screenshot).size(), 0);
+    });
+    xvfb.terminate();
+    xvfb.waitForFinished();
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "launcher-sandbox.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -12,22 +11,17 @@
 namespace {
 
 const int kProcessTimeoutMs = 30000;
-const int kPollIntervalMs = 50;
-const int kClientStartTimeoutMs = 5000;
 const char kLauncher[] = "Drovia.app/Contents/MacOS/launcher";
-const char kLevelFile[] = "launcher_debug=7\nservice_debug=7\n";
-const char kDamagedPackage[] = "PK\x03\x04 this is not a zip archive";
 
 bool copyTree(const QString& from, const QString& to)
 {
-    QDirIterator it(from, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString source = it.next();
-        const QString target = to + source.mid(from.size());
-        if (!QDir().mkpath(QFileInfo(target).absolutePath()) || !QFile::copy(source, target))
-            return false;
-    }
-    return true;
+    return QDir().mkpath(to) && QProcess::execute("cp", {"-RT", from, to}) == 0;
+}
+
+QByteArray versionFile(int build)
+{
+    return "[Version]\nmajor_version=3\nminor_version=2\nbuild_version=" + QByteArray::number(build) +
+           "\nicon_overlay_version=0\n";
 }
 
 }  // namespace
@@ -35,9 +29,8 @@ bool copyTree(const QString& from, const QString& to)
 bool writeFile(const QString& path, const QByteArray& content)
 {
     QFile file(path);
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !file.open(QIODevice::WriteOnly))
-        return false;
-    return file.write(content) == content.size();
+    return QDir().mkpath(QFileInfo(path).absolutePath()) && file.open(QIODevice::WriteOnly) &&
+           file.write(content) == content.size();
 }
 
 QByteArray readFile(const QString& path)
@@ -53,15 +46,14 @@ bool waitUntil(const std::function<bool()>& condition, int timeout_ms)
     while (!condition()) {
         if (timer.elapsed() > timeout_ms)
             return false;
-        QThread::msleep(kPollIntervalMs);
+        QThread::msleep(50);
     }
     return true;
 }
 
 bool pidNamespaceAvailable()
 {
-    static const bool available =
-        QProcess::execute(QStringLiteral("unshare"), {"-pf", "--mount-proc", "true"}) == 0;
+    static const bool available = QProcess::execute("unshare", {"-pf", "--mount-proc", "true"}) == 0;
     return available;
 }
 
@@ -70,16 +62,10 @@ void LauncherSandbox::SetUp()
     ASSERT_TRUE(sandbox.isValid());
     home = sandbox.filePath("home");
     bundle = sandbox.filePath("Drovia.app");
-    ASSERT_TRUE(QDir().mkpath(home));
-    ASSERT_TRUE(QDir().mkpath(sandbox.filePath("tmp")));
-    ASSERT_TRUE(copyTree(DROVIA_BUNDLE_DIR "/Contents/MacOS", bundle + "/Contents/MacOS"));
-    ASSERT_TRUE(copyTree(DROVIA_BUNDLE_DIR "/Contents/Frameworks", bundle + "/Contents/Frameworks"));
-    ASSERT_TRUE(writeFile(bundle + "/log/launcher.debug", kLevelFile));
-}
-
-QString LauncherSandbox::userPath(const QString& relative) const
-{
-    return home + "/.Drovia/" + relative;
+    ASSERT_TRUE(QDir().mkpath(home) && QDir().mkpath(sandbox.filePath("tmp")));
+    for (const char* part : {"/Contents/MacOS", "/Contents/Frameworks"})
+        ASSERT_TRUE(copyTree(DROVIA_BUNDLE_DIR + QString(part), bundle + part));
+    ASSERT_TRUE(writeFile(bundle + "/log/launcher.debug", "launcher_debug=7\nservice_debug=7\n"));
 }
 
 QString LauncherSandbox::stageClient(int build, const QString& label)
@@ -88,26 +74,26 @@ QString LauncherSandbox::stageClient(int build, const QString& label)
     const QString client = stage + "/Contents/MacOS/cloud-ui";
     EXPECT_TRUE(writeFile(client, "#!/bin/sh\necho " + label.toUtf8() + " >> \"$HOME/.Drovia/started\"\n"));
     EXPECT_TRUE(QFile::setPermissions(client, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    EXPECT_TRUE(writeVersion(stage + "/Contents/Resources/INFO", build));
+    EXPECT_TRUE(writeFile(stage + "/Contents/Resources/INFO", versionFile(build)));
     return stage;
+}
+
+bool LauncherSandbox::writeBundleVersion(int build) const
+{
+    return writeFile(bundle + "/Contents/Resources/INFO", versionFile(build));
 }
 
 void LauncherSandbox::shipInBundle(int build, const QString& label)
 {
-    const QString stage = stageClient(build, label);
-    ASSERT_EQ(QProcess::execute(MAKE_PACKAGE, {stage, packagePath()}), 0);
-    ASSERT_TRUE(writeVersion(bundle + "/Contents/Resources/INFO", build));
-}
-
-void LauncherSandbox::shipBuiltPackage()
-{
-    ASSERT_TRUE(copyTree(DROVIA_BUNDLE_DIR "/Contents/Resources", bundle + "/Contents/Resources"));
+    const QString package = bundle + "/Contents/Resources/package/drovia.vpk";
+    ASSERT_EQ(QProcess::execute(MAKE_PACKAGE, {stageClient(build, label), package}), 0);
+    ASSERT_TRUE(writeBundleVersion(build));
 }
 
 void LauncherSandbox::shipDamagedPackage(int build)
 {
-    ASSERT_TRUE(writeFile(packagePath(), QByteArray(kDamagedPackage, sizeof kDamagedPackage - 1)));
-    ASSERT_TRUE(writeVersion(bundle + "/Contents/Resources/INFO", build));
+    ASSERT_TRUE(writeFile(bundle + "/Contents/Resources/package/drovia.vpk", "PK\x03\x04 not a zip archive"));
+    ASSERT_TRUE(writeBundleVersion(build));
 }
 
 void LauncherSandbox::installForUser(int build, const QString& label)
@@ -126,11 +112,6 @@ QProcessEnvironment LauncherSandbox::environment() const
     env.insert("LOG", userPath("log/launcher.log"));
     env.insert("LAUNCHER", kLauncher);
     return env;
-}
-
-LauncherRun LauncherSandbox::runLauncher()
-{
-    return runLauncher(environment());
 }
 
 LauncherRun LauncherSandbox::runLauncher(const QProcessEnvironment& env)
@@ -154,11 +135,10 @@ LauncherRun LauncherSandbox::runLauncher(const QProcessEnvironment& env)
 void LauncherSandbox::startInPidNamespace(QProcess& process, const QByteArray& script,
                                           const QProcessEnvironment& env)
 {
-    const QString path = sandbox.filePath("run.sh");
-    ASSERT_TRUE(writeFile(path, script));
+    ASSERT_TRUE(writeFile(sandbox.filePath("run.sh"), script));
     process.setProcessEnvironment(env);
     process.setWorkingDirectory(sandbox.path());
-    process.start("unshare", {"-pf", "--mount-proc", "sh", path});
+    process.start("unshare", {"-pf", "--mount-proc", "sh", sandbox.filePath("run.sh")});
     ASSERT_TRUE(process.waitForStarted(kProcessTimeoutMs));
 }
 
@@ -185,11 +165,6 @@ QMap<QString, QString> LauncherSandbox::runInPidNamespace(const QByteArray& scri
     return finish(process);
 }
 
-QStringList LauncherSandbox::logMessages() const
-{
-    return messagesIn(QString::fromUtf8(readFile(userPath("log/launcher.log"))));
-}
-
 // "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running"
 QStringList LauncherSandbox::messagesIn(const QString& text)
 {
@@ -205,30 +180,21 @@ QStringList LauncherSandbox::messagesIn(const QString& text)
 
 QStringList LauncherSandbox::startedClients(int count) const
 {
-    const QString path = userPath("started");
-    const auto read = [&path] { return QString::fromUtf8(readFile(path)).split('\n', Qt::SkipEmptyParts); };
-    waitUntil([&] { return read().size() >= count; }, kClientStartTimeoutMs);
+    const auto read = [this] {
+        return QString::fromUtf8(readFile(userPath("started"))).split('\n', Qt::SkipEmptyParts);
+    };
+    waitUntil([&] { return read().size() >= count; }, 5000);
     return read();
 }
 
 QString LauncherSandbox::installedBuild() const
 {
-    QSettings info(userPath("Drovia.app/Contents/Resources/INFO"), QSettings::IniFormat);
-    return info.value("Version/build_version").toString();
+    return QSettings(userPath("Drovia.app/Contents/Resources/INFO"), QSettings::IniFormat)
+        .value("Version/build_version")
+        .toString();
 }
 
 QStringList LauncherSandbox::backupFolders() const
 {
     return QDir(home + "/.Drovia").entryList({"Drovia.app_tmp*"}, QDir::AllEntries | QDir::NoDotAndDotDot);
-}
-
-QString LauncherSandbox::packagePath() const
-{
-    return bundle + "/Contents/Resources/package/drovia.vpk";
-}
-
-bool LauncherSandbox::writeVersion(const QString& path, int build)
-{
-    return writeFile(path, "[Version]\nmajor_version=3\nminor_version=2\nbuild_version=" + QByteArray::number(build) +
-                               "\nicon_overlay_version=0\n");
 }

@@ -10,6 +10,9 @@
 #include <QTemporaryDir>
 
 #include <functional>
+#include <ostream>
+
+inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 struct LauncherRun {
     int exit_code = -1;
@@ -22,23 +25,20 @@ QByteArray readFile(const QString& path);
 bool waitUntil(const std::function<bool()>& condition, int timeout_ms);
 bool pidNamespaceAvailable();
 
-// A copy of the built Drovia.app with its own version file, package and level
-// file, a home folder for it, and ways to run it as a user would. Clients are
-// stand-ins that append their label to ~/.Drovia/started.
+// A copy of the built Drovia.app, a home folder for it, and ways to run it as
+// a user would. Clients are stand-ins that append their label to
+// ~/.Drovia/started.
 class LauncherSandbox : public ::testing::Test {
 protected:
     void SetUp() override;
 
-    QString userPath(const QString& relative) const;
-
+    QString userPath(const QString& relative) const { return home + "/.Drovia/" + relative; }
     void shipInBundle(int build, const QString& label);
-    // The package and version file that the build made, with the demo client.
-    void shipBuiltPackage();
     void shipDamagedPackage(int build);
     void installForUser(int build, const QString& label);
 
     QProcessEnvironment environment() const;
-    LauncherRun runLauncher();
+    LauncherRun runLauncher() { return runLauncher(environment()); }
     LauncherRun runLauncher(const QProcessEnvironment& env);
 
     // Runs script with sh as the first process of a PID namespace of its own,
@@ -50,7 +50,7 @@ protected:
     QMap<QString, QString> runInPidNamespace(const QByteArray& script);
 
     // Log lines as "launcher: running".
-    QStringList logMessages() const;
+    QStringList logMessages() const { return messagesIn(QString::fromUtf8(readFile(userPath("log/launcher.log")))); }
     static QStringList messagesIn(const QString& text);
 
     // The labels of the clients started so far, once count of them are in.
@@ -64,8 +64,7 @@ protected:
 
 private:
     QString stageClient(int build, const QString& label);
-    QString packagePath() const;
-    static bool writeVersion(const QString& path, int build);
+    bool writeBundleVersion(int build) const;
 };
 
 #endif  // LAUNCHER_SANDBOX_H

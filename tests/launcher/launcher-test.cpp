@@ -6,14 +6,12 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimer>
 
-#include <chrono>
-#include <mutex>
-#include <ostream>
-#include <string>
+#include <atomic>
+#include <memory>
 #include <thread>
-#include <vector>
 
 #include "cloud-service.h"
 #include "launcher.h"
@@ -24,28 +22,17 @@
 
 namespace {
 
-const int kRunTimeoutMs = 10000;
-const char kPreparingText[] = "Drovia is initializing...";
-const char kReadyText[] = "Drovia is ready.";
+std::atomic<bool> upgrade_may_finish{true};
 
-// Calls are written to the shared log, so that one file shows the worker's
-// lines and the service's steps in the order they happened.
+// Steps go to the shared log, so that one file shows the launcher's lines and
+// the service's steps in the order they happened.
 class FakeService : public Service {
 public:
-    bool need_upgrade = false;
-    int upgrade_result = 0;
-    // Set to hold HandlePackageUpgrade until the test lets it go.
-    std::timed_mutex* upgrade_gate = nullptr;
-    std::vector<std::string>* destroyed_after = nullptr;
-
-    ~FakeService() override
-    {
-        if (destroyed_after)
-            destroyed_after->push_back(last_step);
-    }
-
+    FakeService(bool need_upgrade, int result) : need_upgrade(need_upgrade), result(result) {}
+    ~FakeService() override { step("destroyed"); }
     void StopService() override { step("StopService"); }
     void PreUpgrade() override { step("PreUpgrade"); }
+    void PostUpgrade() override { step("PostUpgrade"); }
     bool IsNeedUpgrade() override
     {
         step("IsNeedUpgrade");
@@ -54,194 +41,142 @@ public:
     int HandlePackageUpgrade() override
     {
         step("HandlePackageUpgrade");
-        if (upgrade_gate) {
-            upgrade_gate->lock();
-            upgrade_gate->unlock();
-        }
-        return upgrade_result;
+        while (!upgrade_may_finish)
+            QThread::msleep(5);
+        return result;
     }
-    void PostUpgrade() override { step("PostUpgrade"); }
 
 private:
-    void step(const char* name)
+    static void step(const char* name)
     {
-        last_step = name;
-        Logger::LogMsg(Logger::LEVEL_DEBUG, "service_debug", "[DEBUG] fake(%d): %s\n", __LINE__, name);
+        Logger::LogMsg(Logger::LEVEL_DEBUG, "service_debug", "[DEBUG] fake(1): %s\n", name);
     }
-
-    std::string last_step;
+    bool need_upgrade;
+    int result;
 };
 
-class TestWorker : public Worker {
-public:
-    explicit TestWorker(Service* service) : Worker(service) {}
+struct TestWorker : Worker {
+    explicit TestWorker(bool need_upgrade, int result) : Worker(new FakeService(need_upgrade, result)) {}
 };
-
-class TestLauncher : public Launcher {
-public:
+struct TestLauncher : Launcher {
     explicit TestLauncher(Worker* worker) : Launcher(worker) {}
 };
 
-// One application, one temporary home and one log for the whole binary: the
-// toolkit and the logger are process-wide.
-class LauncherEnvironment : public ::testing::Environment {
-public:
+QTemporaryDir home;
+QString logPath() { return home.filePath("launcher.log"); }
+
+// The toolkit and the logger are process-wide: one application, one home and
+// one log for the whole binary.
+struct LauncherEnvironment : ::testing::Environment {
     void SetUp() override
     {
         ASSERT_TRUE(home.isValid());
         qputenv("HOME", home.path().toUtf8());
-        QFile level_file(home.filePath("launcher.debug"));
-        ASSERT_TRUE(level_file.open(QIODevice::WriteOnly));
-        level_file.write("launcher_debug=7\nservice_debug=7\n");
-        level_file.close();
+        const QString levels = home.filePath("launcher.debug");
+        QFile file(levels);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("launcher_debug=7\nservice_debug=7\n") > 0);
+        file.close();
         ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, logPath().toUtf8().constData(),
-                                     level_file.fileName().toUtf8().constData(), 50),
-                  0);
-        app = new QApplication(argc, argv);
+                                     levels.toUtf8().constData(), 50), 0);
+        app = std::make_unique<QApplication>(argc, argv);
         StrTable::InitStrTable();
     }
-
     void TearDown() override
     {
-        delete app;
-        app = nullptr;
+        app.reset();
         Logger::Destroy();
     }
-
-    static QString logPath() { return home.filePath("launcher.log"); }
-
-    static QTemporaryDir home;
-
-private:
     int argc = 1;
-    char app_name[16] = "launcher_test";
-    char* argv[2] = {app_name, nullptr};
-    QApplication* app = nullptr;
+    char name[16] = "launcher_test";
+    char* argv[2] = {name, nullptr};
+    std::unique_ptr<QApplication> app;
 };
-
-QTemporaryDir LauncherEnvironment::home;
 ::testing::Environment* const environment = ::testing::AddGlobalTestEnvironment(new LauncherEnvironment);
 
-// "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running",
-// without any path at the end of the message.
+// "Nov 16 20:31:15 [DEBUG] launcher(57): running /x" -> "launcher: running"
 QStringList logStepsSince(qint64 offset)
 {
-    QFile log(LauncherEnvironment::logPath());
+    QFile log(logPath());
     if (!log.open(QIODevice::ReadOnly) || !log.seek(offset))
         return {};
-    const QRegularExpression line_shape(QStringLiteral(R"(\] ([\w/-]+)\(\d+\): (.*)$)"));
+    static const QRegularExpression shape(QStringLiteral(R"(\] ([\w/-]+)\(\d+\): (.*)$)"));
     QStringList steps;
     for (const QString& line : QString::fromUtf8(log.readAll()).split('\n', Qt::SkipEmptyParts)) {
-        const QRegularExpressionMatch match = line_shape.match(line);
+        const QRegularExpressionMatch match = shape.match(line);
         if (match.hasMatch())
             steps << match.captured(1) + ": " + match.captured(2).section(" /", 0, 0);
     }
     return steps;
 }
 
-qint64 logSize()
-{
-    return QFile(LauncherEnvironment::logPath()).size();
-}
-
 QProgressDialog* findDialog()
 {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
+    for (QWidget* widget : QApplication::topLevelWidgets())
         if (auto* dialog = qobject_cast<QProgressDialog*>(widget))
             return dialog;
-    }
     return nullptr;
 }
 
 // Runs the event loop as main does; false if the launcher never quit it.
-bool runEventLoop()
+bool runEventLoop(TestLauncher* launcher)
 {
+    launcher->Run();
+    launcher->Start();
     bool timed_out = false;
     QTimer guard;
-    guard.setSingleShot(true);
     QObject::connect(&guard, &QTimer::timeout, [&timed_out] {
         timed_out = true;
         QCoreApplication::quit();
     });
-    guard.start(kRunTimeoutMs);
+    guard.start(10000);
     QApplication::exec();
     return !timed_out;
 }
 
-struct RunCase {
-    const char* name;
-    bool need_upgrade;
-    int upgrade_result;
-    QStringList steps;
-    int show_requests;
-    const char* final_label;
-};
-
-void PrintTo(const RunCase& run_case, std::ostream* out)
+TEST(Launcher, LogsEachStepInOrderAndShowsTheDialogOnlyToUpgrade)
 {
-    *out << run_case.name;
-}
-
-class LauncherRun : public ::testing::TestWithParam<RunCase> {};
-
-TEST_P(LauncherRun, LogsEachStepInOrderAndEndsWithTheDialogHidden)
-{
-    const RunCase& expected = GetParam();
-    auto* service = new FakeService;
-    service->need_upgrade = expected.need_upgrade;
-    service->upgrade_result = expected.upgrade_result;
-    auto* worker = new TestWorker(service);
-    QSignalSpy show_requests(worker, SIGNAL(sigShowMsg()));
-    auto* launcher = new TestLauncher(worker);
-    const qint64 log_start = logSize();
-
-    launcher->Run();
-    launcher->Start();
-    ASSERT_TRUE(runEventLoop());
-
-    QProgressDialog* dialog = findDialog();
-    ASSERT_NE(dialog, nullptr);
-    EXPECT_TRUE(dialog->isHidden());
-    EXPECT_EQ(dialog->value(), 100);
-    EXPECT_EQ(dialog->labelText(), expected.final_label);
-    EXPECT_EQ(show_requests.count(), expected.show_requests);
-    delete launcher;
-    EXPECT_EQ(logStepsSince(log_start), expected.steps);
-}
-
-const QStringList kHead = {"launcher: running", "fake: PreUpgrade", "fake: IsNeedUpgrade"};
-const QStringList kTail = {"cloud-service: removing aged app folder", "fake: PostUpgrade", "launcher: done"};
-
-INSTANTIATE_TEST_SUITE_P(
-    Outcomes, LauncherRun,
-    ::testing::Values(
-        RunCase{"NoUpgrade", false, 0, kHead + QStringList{"launcher: no need to upgrade"} + kTail, 0,
-                kPreparingText},
-        RunCase{"Upgraded", true, 0, kHead + QStringList{"fake: HandlePackageUpgrade"} + kTail, 1, kReadyText},
-        RunCase{"UpgradeFailed", true, -1,
-                kHead + QStringList{"fake: HandlePackageUpgrade", "launcher: Failed to upgrade package"} + kTail, 1,
-                kPreparingText}),
-    [](const ::testing::TestParamInfo<RunCase>& info) { return std::string(info.param.name); });
-
-TEST(LauncherProgress, ReportsBecomeTruncatedPercentages)
-{
-    TestLauncher launcher(new TestWorker(new FakeService));
-    QProgressDialog* dialog = findDialog();
-    ASSERT_NE(dialog, nullptr);
-
-    const auto report = [&launcher](int total, int steps) {
-        QMetaObject::invokeMethod(&launcher, "UpdateProgress", Q_ARG(int, total), Q_ARG(int, steps));
+    const QStringList head = {"launcher: running", "fake: PreUpgrade", "fake: IsNeedUpgrade"};
+    const QStringList tail = {"cloud-service: removing aged app folder", "fake: PostUpgrade", "launcher: done",
+                              "fake: destroyed"};
+    const struct {
+        bool need_upgrade;
+        int result;
+        QStringList middle;
+        const char* final_label;
+    } cases[] = {
+        {false, 0, {"launcher: no need to upgrade"}, "Drovia is initializing..."},
+        {true, 0, {"fake: HandlePackageUpgrade"}, "Drovia is ready."},
+        {true, -1, {"fake: HandlePackageUpgrade", "launcher: Failed to upgrade package"}, "Drovia is initializing..."},
     };
-    report(3, 1);
-    EXPECT_EQ(dialog->value(), 33);
-    report(3, 2);
-    EXPECT_EQ(dialog->value(), 66);
-    report(7, 7);
-    EXPECT_EQ(dialog->value(), 100);
-    report(0, 0);
-    EXPECT_EQ(dialog->value(), 100);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.middle.join(", ").toStdString());
+        const qint64 log_start = QFile(logPath()).size();
+        Worker* worker = new TestWorker(c.need_upgrade, c.result);
+        QSignalSpy show_requests(worker, SIGNAL(sigShowMsg()));
+        auto* launcher = new TestLauncher(worker);
+        ASSERT_TRUE(runEventLoop(launcher));
+        QProgressDialog* dialog = findDialog();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_TRUE(dialog->isHidden());
+        EXPECT_EQ(dialog->value(), 100);
+        EXPECT_EQ(dialog->labelText(), c.final_label);
+        EXPECT_EQ(show_requests.count(), c.need_upgrade ? 1 : 0);
+        delete launcher;
+        EXPECT_EQ(logStepsSince(log_start), head + c.middle + tail);
+    }
+}
 
-    // The relay reaches the same slots.
+TEST(Launcher, ShowsReportsAsTruncatedPercentages)
+{
+    TestLauncher launcher(new TestWorker(false, 0));
+    QProgressDialog* dialog = findDialog();
+    ASSERT_NE(dialog, nullptr);
+    const int reports[][3] = {{3, 1, 33}, {3, 2, 66}, {7, 7, 100}, {0, 0, 100}};
+    for (const auto& r : reports) {
+        QMetaObject::invokeMethod(&launcher, "UpdateProgress", Q_ARG(int, r[0]), Q_ARG(int, r[1]));
+        EXPECT_EQ(dialog->value(), r[2]) << r[1] << "/" << r[0];
+    }
+    // The relay that the extractor reports through reaches the same slots.
     Notify_Adapter::GetInstance()->UpdateProgress(4, 1);
     EXPECT_EQ(dialog->value(), 25);
     Notify_Adapter::GetInstance()->UpdateDialogText("unpacking");
@@ -250,38 +185,26 @@ TEST(LauncherProgress, ReportsBecomeTruncatedPercentages)
 
 // Closing the dialog ends the event loop (it was the last window) while the
 // upgrade still runs. Deleting the launcher must wait for the upgrade and the
-// launch to finish, and destroy the service only after the thread ended.
-TEST(LauncherShutdown, ClosingTheDialogMidUpgradeLetsTheWorkFinish)
+// launch to finish, and destroy the service only after that.
+TEST(Launcher, ClosingTheDialogMidUpgradeLetsTheWorkFinish)
 {
-    std::timed_mutex upgrade_gate;
-    upgrade_gate.lock();
-    std::vector<std::string> destroyed_after;
-    auto* service = new FakeService;
-    service->need_upgrade = true;
-    service->upgrade_gate = &upgrade_gate;
-    service->destroyed_after = &destroyed_after;
+    upgrade_may_finish = false;
+    Worker* worker = new TestWorker(true, 0);
+    auto* launcher = new TestLauncher(worker);
+    const qint64 log_start = QFile(logPath()).size();
+    // Queued after the launcher's own handler, which shows the dialog.
+    QObject::connect(worker, &Worker::sigShowMsg, launcher, [] { findDialog()->close(); }, Qt::QueuedConnection);
+    EXPECT_TRUE(runEventLoop(launcher));
 
-    auto* launcher = new TestLauncher(new TestWorker(service));
-    launcher->Run();
-    launcher->Start();
-    QTimer close_when_shown;
-    QObject::connect(&close_when_shown, &QTimer::timeout, [] {
-        QProgressDialog* dialog = findDialog();
-        if (dialog && dialog->isVisible())
-            dialog->close();
-    });
-    close_when_shown.start(10);
-    EXPECT_TRUE(runEventLoop());
-    close_when_shown.stop();
-
-    std::thread releaser([&upgrade_gate] {
+    std::thread releaser([] {
         std::this_thread::sleep_for(std::chrono::milliseconds(200));
-        upgrade_gate.unlock();
+        upgrade_may_finish = true;
     });
     delete launcher;
     releaser.join();
-
-    EXPECT_EQ(destroyed_after, std::vector<std::string>({"PostUpgrade"}));
+    EXPECT_EQ(logStepsSince(log_start).filter(QRegularExpression("^fake: ")),
+              QStringList({"fake: PreUpgrade", "fake: IsNeedUpgrade", "fake: HandlePackageUpgrade",
+                           "fake: PostUpgrade", "fake: destroyed"}));
 }
 
 }  // namespace
