@@ -3,7 +3,8 @@
 what it needs and calls it. Every run uses a copy of the built bundle and a
 temporary HOME below the work folder, never the real home.
 
-    bench.py <build folder> <work folder> [upgrade|launch|memory|gui|all] ...
+    bench.py <build folder> <work folder> [upgrade|launch|memory|gui|all|report] ...
+    bench.py <build folder> <work folder> upgrade:zip,tar.zst    (some formats again)
 
 Results go to <work folder>/results: one TSV per benchmark, results.md with
 the tables and upgrade.png with the plot.
@@ -228,11 +229,18 @@ def upgrade_row(paths, fmt, old_tree, label, pairs=UPGRADE_PAIRS):
     return row
 
 
-def bench_upgrade(paths):
+def bench_upgrade(paths, formats=FORMATS):
+    """Measures the given formats; rows of other formats already measured
+    stay in the table."""
     old_tree = tree_for(paths, OLD_CLIENT_SHAPE)
-    rows = [upgrade_row(paths, fmt, old_tree, fmt) for fmt in FORMATS]
+    kept = {row["format"]: row for row in read_tsv(paths, "upgrade.tsv")}
+    measured = {fmt: upgrade_row(paths, fmt, old_tree, fmt) for fmt in formats}
+    rows = [measured[fmt] if fmt in measured else [kept[fmt][key] for key in UPGRADE_HEADER]
+            for fmt in FORMATS if fmt in measured or fmt in kept]
     write_tsv(paths, "upgrade.tsv", UPGRADE_HEADER, rows)
     plot_upgrade(paths)
+    if tuple(formats) != FORMATS:
+        return
     # Replacing a full-size installation also deletes it, which bsdtar never does.
     write_tsv(paths, "upgrade-full-old.tsv", UPGRADE_HEADER,
               [upgrade_row(paths, CHOSEN_FORMAT, None, CHOSEN_FORMAT + " over a full-size installation",
@@ -310,10 +318,63 @@ set yrange [0:*]
 set style data histograms
 set style histogram clustered gap 1
 set style fill solid 0.8 border -1
-set key top left
-plot '{data}' using 4:xtic(1) title 'launcher (whole run)', '' using 7 title 'bsdtar -xf'
+set key outside bottom center horizontal
+plot '{data}' skip 1 using 4:xtic(1) title 'launcher (whole run)', '' skip 1 using 7 title 'bsdtar -xf'
 """.format(out=os.path.join(paths.results, "upgrade.png"), data=data, pairs=UPGRADE_PAIRS)
     run_checked(["gnuplot"], input=script, text=True)
+
+
+def read_tsv(paths, name):
+    path = os.path.join(paths.results, name)
+    if not os.path.exists(path):
+        return []
+    with open(path) as lines:
+        header = lines.readline().rstrip("\n").split("\t")
+        return [dict(zip(header, line.rstrip("\n").split("\t"))) for line in lines]
+
+
+def spread(row, key, scale=1.0, digits=2):
+    """median (min-max) of one measured quantity."""
+    values = [float(row[key + suffix]) * scale for suffix in ("_med", "_min", "_max")]
+    return "%.*f (%.*f-%.*f)" % (digits, values[0], digits, values[1], digits, values[2])
+
+
+def write_markdown(paths):
+    """Tables of every result present, for docs/performance.md."""
+    lines = []
+    upgrade = read_tsv(paths, "upgrade.tsv") + read_tsv(paths, "upgrade-full-old.tsv")
+    if upgrade:
+        lines += ["| package | unpacked MB | package MB | launcher s | bsdtar s | ratio | CPU s launcher / bsdtar |",
+                  "|---|---|---|---|---|---|---|"]
+        for row in upgrade:
+            lines.append("| %s | %.0f | %.0f | %s | %s | %s | %.2f / %.2f |" % (
+                row["format"], int(row["unpacked"]) / 1e6, int(row["package"]) / 1e6,
+                spread(row, "launcher"), spread(row, "bsdtar"), spread(row, "ratio"),
+                float(row["launcher_cpu_med"]), float(row["bsdtar_cpu_med"])))
+        lines.append("")
+    for row in read_tsv(paths, "launch.tsv"):
+        lines += ["| launcher ms | bare program ms | ratio | CPU ms launcher / bare |", "|---|---|---|---|",
+                  "| %s | %s | %s | %.0f / %.0f |" % (
+                      spread(row, "launcher", 1000, 0), spread(row, "bare", 1000, 0),
+                      spread(row, "ratio"), float(row["launcher_cpu_med"]) * 1000,
+                      float(row["bare_cpu_med"]) * 1000), ""]
+    memory = read_tsv(paths, "memory.tsv")
+    if memory:
+        lines += ["| unpacked MB | entries | package MB | peak RSS MiB |", "|---|---|---|---|"]
+        for row in memory:
+            lines.append("| %s | %s | %.0f | %s |" % (row["unpacked_mb"], row["entries"],
+                                                     int(row["package"]) / 1e6,
+                                                     spread(row, "peak_kib", 1 / 1024, 1)))
+        lines.append("")
+    gui = read_tsv(paths, "gui.tsv")
+    if gui:
+        lines += ["| run | ticks | median gap ms | p99 gap ms | longest gap ms |", "|---|---|---|---|---|"]
+        for index, row in enumerate(gui, 1):
+            lines.append("| %d | %s | %s | %s | %s |" % (index, row["ticks"], row["p50_ms"],
+                                                       row["p99_ms"], row["max_ms"]))
+        lines.append("")
+    with open(os.path.join(paths.results, "results.md"), "w") as out:
+        out.write("\n".join(lines))
 
 
 BENCHMARKS = {"upgrade": bench_upgrade, "launch": bench_launch, "memory": bench_memory,
@@ -325,12 +386,19 @@ def main():
         sys.exit(__doc__)
     paths = Paths(os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2]))
     names = sys.argv[3:] or ["all"]
+    if names == ["report"]:
+        write_markdown(paths)
+        return
     if "all" in names:
         names = list(BENCHMARKS)
     for name in names:
-        if name not in BENCHMARKS:
+        if name.startswith("upgrade:"):
+            bench_upgrade(paths, name.split(":", 1)[1].split(","))
+        elif name in BENCHMARKS:
+            BENCHMARKS[name](paths)
+        else:
             sys.exit("bench: unknown benchmark %s" % name)
-        BENCHMARKS[name](paths)
+    write_markdown(paths)
 
 
 if __name__ == "__main__":

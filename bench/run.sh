@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Builds a release launcher with the benchmark helpers and runs the
 # benchmarks; results land in <work folder>/results (see docs/performance.md).
-#   bench/run.sh [upgrade|launch|memory|gui|all]...
+#   bench/run.sh [upgrade|launch|memory|gui|all]...   (no argument: all)
+#   bench/run.sh upgrade:zip   measures some package formats again
+#   bench/run.sh report        rewrites results.md from the results there
 # BUILD_DIR (default build-perf) and WORK_DIR (default $BUILD_DIR/bench-work)
 # move the build and the generated packages, runs and results elsewhere.
 set -euo pipefail
