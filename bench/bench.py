@@ -18,7 +18,7 @@ import sys
 import time
 
 FORMATS = ("tar.gz", "tar.xz", "tar.zst", "zip", "zip-stored")
-CHOSEN_FORMAT = "tar.zst"      # what scripts/make-package.sh makes by default
+CHOSEN_FORMAT = "zip"          # what scripts/make-package.sh makes by default
 CLIENT_SHAPE = (250, 10000)    # unpacked MB, entries
 MEMORY_SHAPES = ((100, 4000), (1000, 40000))
 OLD_CLIENT_SHAPE = (1, 40)     # the older installation an upgrade replaces

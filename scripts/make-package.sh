@@ -2,15 +2,15 @@
 # Packs a staged per-user bundle into the package archive that the launcher
 # unpacks into ~/.Drovia/Drovia.app:
 #   make-package.sh <staged bundle folder> <output .vpk> [format]
-# The archive is a pax tar compressed with zstd: zstd decompresses fast
-# enough that the launcher's counting pass costs little, and a tar keeps
-# nothing per entry in memory, where a zip's central directory grows with
-# the entry count (docs/performance.md). Folders come first and the version
-# file last, so an interrupted unpack never looks like a complete installation.
+# The archive is a zip with deflate: the launcher's counting pass reads only
+# its central directory, so the second pass over the package costs next to
+# nothing, and every libarchive reads it (docs/performance.md has the
+# measurements). Folders come first and the version file last, so an
+# interrupted unpack never looks like a complete installation.
 set -euo pipefail
 
 # Formats the benchmarks compare; docs/performance.md has the numbers.
-case "${3:-tar.zst}" in
+case "${3:-zip}" in
     zip)        FORMAT=(--format zip --options zip:compression=deflate) ;;
     zip-stored) FORMAT=(--format zip --options zip:compression=store) ;;
     tar.gz)     FORMAT=(--format pax --gzip) ;;
