@@ -15,14 +15,24 @@ extern "C" __attribute__((weak)) int LLVMFuzzerInitialize(int* argc, char*** arg
 
 namespace {
 
+bool Exists(const std::string& path)
+{
+    struct stat info;
+    return stat(path.c_str(), &info) == 0;
+}
+
 bool IsFolder(const std::string& path)
 {
     struct stat info;
     return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
+// A regressions folder holds nothing until a fuzzer finds a crash, and git
+// keeps no empty folders, so a missing folder means no inputs.
 std::vector<std::string> InputsIn(const std::string& path)
 {
+    if (!Exists(path))
+        return {};
     if (!IsFolder(path))
         return {path};
     std::vector<std::string> inputs;
