@@ -50,12 +50,13 @@ void OpenLog()
         std::fprintf(stderr, "launcher: cannot open %s, logging to standard error\n", log_file.c_str_utf8());
 }
 
-// A catalogue that cannot be loaded leaves the translator empty; the texts
-// then stay English.
+// A catalogue that cannot be loaded leaves the translator empty, and an
+// empty translator is not installed: the texts then stay English.
 void InstallTranslator(QTranslator& translator)
 {
     const QString catalogue = QStringLiteral(":/") + VelmLocale::getDefaultLanguage() + QStringLiteral(".qm");
-    if (translator.load(catalogue) && !translator.isEmpty())
+    translator.load(catalogue);
+    if (!translator.isEmpty())
         QCoreApplication::installTranslator(&translator);
 }
 
