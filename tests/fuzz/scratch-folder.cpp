@@ -1,21 +1,12 @@
 #include "scratch-folder.h"
 
-#include <ftw.h>
 #include <unistd.h>
 
-#include <cstdio>
 #include <cstdlib>
-#include <memory>
+#include <filesystem>
+#include <fstream>
 
 namespace {
-
-const int kOpenFolders = 16;
-
-int RemoveOne(const char* path, const struct stat*, int, struct FTW*)
-{
-    remove(path);
-    return 0;
-}
 
 void RemoveScratch()
 {
@@ -44,16 +35,15 @@ const std::string& ScratchFolder()
 
 bool WriteWhole(const std::string& path, const unsigned char* data, size_t size)
 {
-    std::unique_ptr<FILE, decltype(&fclose)> file(fopen(path.c_str(), "wb"), &fclose);
-    if (!file)
-        return false;
-    if (size > 0 && fwrite(data, 1, size, file.get()) != size)
-        return false;
-    return fflush(file.get()) == 0;
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+    file.flush();
+    return file.good();
 }
 
 void RemoveTree(const std::string& path)
 {
+    std::error_code ignored;
     if (!path.empty())
-        nftw(path.c_str(), RemoveOne, kOpenFolders, FTW_DEPTH | FTW_PHYS);
+        std::filesystem::remove_all(path, ignored);
 }

@@ -128,11 +128,6 @@ void ClaimHugeZipSizes(std::string& zip)
         PutLittleEndian32(zip, at + 24, kHugeZipSize);
 }
 
-void PrintTo(const Format& format, std::ostream* out)
-{
-    *out << format.name;
-}
-
 class MalformedPackage : public ServiceTest, public ::testing::WithParamInterface<Format> {
 protected:
     void SetUp() override
@@ -158,23 +153,19 @@ protected:
         return MakeArchive(GetParam().format, GetParam().filter, entries);
     }
 
-    const std::string& Cached(const std::string& key, const std::function<std::string()>& make);
+    // Compressing is the slow part (xz above all, under the sanitizers), and
+    // the variants share few distinct archives, so each is made once.
+    const std::string& Cached(const std::string& key, const std::function<std::string()>& make)
+    {
+        auto found = archives.find(key);
+        return found != archives.end() ? found->second : archives.emplace(key, make()).first->second;
+    }
     std::string Variant(Damage damage, std::mt19937& random, std::string& inserted_name);
     void ExpectNothingEscaped(const std::string& context) const;
 
     TreeSnapshot old_tree;
     std::map<std::string, std::string> archives;
 };
-
-// Compressing is the slow part (xz above all, under the sanitizers), and
-// the variants share few distinct archives, so each is made once.
-const std::string& MalformedPackage::Cached(const std::string& key, const std::function<std::string()>& make)
-{
-    auto found = archives.find(key);
-    if (found == archives.end())
-        found = archives.emplace(key, make()).first;
-    return found->second;
-}
 
 std::string MalformedPackage::Variant(Damage damage, std::mt19937& random, std::string& inserted_name)
 {
@@ -215,7 +206,7 @@ std::string MalformedPackage::Variant(Damage damage, std::mt19937& random, std::
             });
         }
         break;
-    case DAMAGE_KINDS:
+    default:
         break;
     }
     return bytes;

@@ -37,20 +37,10 @@ void AddParents(TreeSnapshot& tree, const std::string& name)
 bool ReadData(archive* reader, std::string& content)
 {
     char buffer[16384];
-    for (;;) {
-        const la_ssize_t got = archive_read_data(reader, buffer, sizeof buffer);
-        if (got < 0)
-            return false;
-        if (got == 0)
-            return true;
+    la_ssize_t got;
+    while ((got = archive_read_data(reader, buffer, sizeof buffer)) > 0)
         content.append(buffer, static_cast<size_t>(got));
-    }
-}
-
-std::string Shown(const std::string& value)
-{
-    const size_t kShownBytes = 40;
-    return value.size() <= kShownBytes ? value : value.substr(0, kShownBytes) + "...";
+    return got == 0;
 }
 
 }  // namespace
@@ -97,12 +87,9 @@ TreeSnapshot SnapshotOfArchive(const QString& archive_path)
         case AE_IFLNK:
             tree[name] = std::string("l:") + archive_entry_symlink(entry);
             break;
-        default: {
-            std::string content;
-            if (!ReadData(reader.get(), content))
+        default:
+            if (!ReadData(reader.get(), tree[name] = "f:"))
                 return {};
-            tree[name] = "f:" + content;
-        }
         }
     }
     return status == ARCHIVE_EOF ? tree : TreeSnapshot();
@@ -112,21 +99,20 @@ std::string DescribeDifferences(const TreeSnapshot& expected, const TreeSnapshot
 {
     std::string report;
     size_t reported = 0;
-    const auto note = [&](const std::string& line) {
+    const auto note = [&](const char* what, const std::string& name) {
         if (reported++ < kMaxReported)
-            report += line + "\n";
+            report += what + name + "\n";
     };
     for (const auto& [name, value] : expected) {
         const auto found = actual.find(name);
         if (found == actual.end())
-            note("missing: " + name);
+            note("missing: ", name);
         else if (found->second != value)
-            note("differs: " + name + " is '" + Shown(found->second) + "', expected '" + Shown(value) + "'");
+            note("differs: ", name);
     }
-    for (const auto& [name, value] : actual) {
-        if (expected.count(name) == 0)
-            note("extra: " + name);
-    }
+    for (const auto& item : actual)
+        if (expected.count(item.first) == 0)
+            note("extra: ", item.first);
     if (reported > kMaxReported)
         report += std::to_string(reported - kMaxReported) + " more\n";
     return report;
