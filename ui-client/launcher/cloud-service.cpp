@@ -11,6 +11,7 @@
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
+#include "qt-ustring.h"
 
 namespace {
 
@@ -22,16 +23,6 @@ const char kAgedAppFolder[] = "/app";
 const char kBackupSuffix[] = "_tmp";
 const int kBackupAttempts = 10;
 const int kBackupNumberSize = 8;
-
-QString ToQString(const ustring& text)
-{
-    return QString::fromUtf8(text.c_str_utf8());
-}
-
-ustring ToUstring(const QString& text)
-{
-    return ustring(text.toUtf8().toStdString());
-}
 
 // Fills only the fields whose key the file has, so a missing or unreadable
 // file leaves every field as it was. The file is never written back.

@@ -13,6 +13,7 @@
 #include "cloud-service.h"
 #include "launcher.h"
 #include "log.h"
+#include "qt-ustring.h"
 #include "qtsingleapplication.h"
 #include "strtable.h"
 
@@ -20,11 +21,6 @@ namespace {
 
 const char kLogComponent[] = "launcher_debug";
 const int kLogRotateCount = 50;
-
-QString FromUtf8(const ustring& text)
-{
-    return QString::fromUtf8(text.c_str_utf8());
-}
 
 // Named textually from argv[0], as in a bundle: Contents/MacOS/launcher
 // gives Contents/Frameworks/plugins. It must be set before the application
@@ -43,7 +39,7 @@ void OpenLog()
 {
     const ustring level_file = Service::GetRootDroviaInstallPath() + "/log/launcher.debug";
     const ustring log_folder = Service::GetUserDroviaInstallPath() + "/log";
-    if (!QDir().mkpath(FromUtf8(log_folder)))
+    if (!QDir().mkpath(ToQString(log_folder)))
         return;
     const ustring log_file = log_folder + "/launcher.log";
     if (Logger::Initialize(Logger::TYPE_FILE, log_file, level_file, kLogRotateCount) != 0)

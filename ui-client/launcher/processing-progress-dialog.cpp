@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "cloud-service.h"
+#include "qt-ustring.h"
 #include "strtable.h"
 
 namespace {
@@ -23,8 +24,7 @@ ProcessingProgressDialog::ProcessingProgressDialog()
 {
     const QFont font(QStringLiteral("Arial"), -1, -1, false);
     const QString iconPath =
-        QString::fromUtf8(Service::GetRootDroviaResourceInstallPath().c_str_utf8()) +
-        QLatin1String(kIconFile);
+        ToQString(Service::GetRootDroviaResourceInstallPath()) + QLatin1String(kIconFile);
 
     setWindowTitle(StrTable::LoadStr(kTitleStrId));
     setWindowIcon(QIcon(iconPath));
