@@ -17,6 +17,10 @@ public:
     // Like any lookup through entries, it adds an absent key with an empty value.
     int get_int(const ustring& key);
 
+    // text read like atoi: blanks, an optional sign, digits up to the first
+    // other byte; 0 without digits. Out-of-range numbers are clamped.
+    static int to_int(const ustring& text);
+
     std::map<ustring, ustring> entries;
 };
 

@@ -153,9 +153,14 @@ int Config::read(const ustring& path)
 
 int Config::get_int(const ustring& key)
 {
+    return to_int(entries[key]);
+}
+
+int Config::to_int(const ustring& text)
+{
     // Values never hold NUL bytes (they are control bytes), so the C string
     // is the whole value.
-    const long number = std::strtol(entries[key].c_str_utf8(), nullptr, 10);
+    const long number = std::strtol(text.c_str_utf8(), nullptr, 10);
     if (number > INT_MAX)
         return INT_MAX;
     if (number < INT_MIN)

@@ -26,17 +26,6 @@ const char kPidKey[] = "pid";
 const int kExitProbes = 5;
 const unsigned kProbeIntervalSeconds = 1;
 
-// Build numbers read like atoi, but clamped instead of overflowing.
-int BuildNumber(const ustring& text)
-{
-    const long value = std::strtol(text.c_str_utf8(), nullptr, 10);
-    if (value > INT_MAX)
-        return INT_MAX;
-    if (value < INT_MIN)
-        return INT_MIN;
-    return static_cast<int>(value);
-}
-
 // 0 when text names no single process: kill() with 0 or a negative pid
 // addresses a whole process group, the launcher's own included.
 pid_t ClientPid(const ustring& text)
@@ -79,8 +68,8 @@ void MacService::PreUpgrade()
 // reinstall even of an older package.
 bool MacService::IsNeedUpgrade()
 {
-    const int source = BuildNumber(source_build_version);
-    const int target = BuildNumber(target_build_version);
+    const int source = Config::to_int(source_build_version);
+    const int target = Config::to_int(target_build_version);
     Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
                    "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
                    __LINE__, source, target);
