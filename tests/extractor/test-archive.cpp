@@ -1,13 +1,13 @@
 #include "test-archive.h"
-
 #include <archive.h>
 #include <archive_entry.h>
-
+#include <gtest/gtest.h>
+#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
-
-#include <memory>
+#include <QTemporaryDir>
+#include <cstdlib>
+#include "log.h"
+#include "strtable.h"
 
 QString LogCapture::path;
 
@@ -18,44 +18,33 @@ std::string MakeArchive(int format, int filter, const std::vector<TestEntry>& en
         static_cast<std::string*>(sink)->append(static_cast<const char*>(data), size);
         return static_cast<la_ssize_t>(size);
     };
-    std::unique_ptr<archive, decltype(&archive_write_free)> writer(archive_write_new(),
-                                                                   archive_write_free);
-    std::unique_ptr<archive_entry, decltype(&archive_entry_free)> entry(archive_entry_new(),
-                                                                       archive_entry_free);
-    bool ok = archive_write_set_format(writer.get(), format) == ARCHIVE_OK &&
-              archive_write_add_filter(writer.get(), filter) == ARCHIVE_OK &&
-              // No zero padding after the data: the zstd reader takes it for a frame.
-              archive_write_set_bytes_in_last_block(writer.get(), 1) == ARCHIVE_OK &&
-              archive_write_open(writer.get(), &bytes, nullptr, append, nullptr) == ARCHIVE_OK;
-    for (auto item = entries.begin(); ok && item != entries.end(); ++item) {
-        archive_entry_clear(entry.get());
-        archive_entry_set_pathname(entry.get(), item->name.c_str());
-        archive_entry_set_mode(entry.get(), item->folder ? AE_IFDIR | 0755 : AE_IFREG | 0644);
-        const size_t size = item->folder ? 0 : item->content.size();
-        archive_entry_set_size(entry.get(), static_cast<la_int64_t>(size));
-        ok = archive_write_header(writer.get(), entry.get()) == ARCHIVE_OK &&
-             (size == 0 || archive_write_data(writer.get(), item->content.data(), size) ==
-                               static_cast<la_ssize_t>(size));
+    archive* writer = archive_write_new();
+    archive_entry* entry = archive_entry_new();
+    // No zero padding after the data: the zstd reader takes it for a frame.
+    bool ok = archive_write_set_format(writer, format) == ARCHIVE_OK &&
+              archive_write_add_filter(writer, filter) == ARCHIVE_OK &&
+              archive_write_set_bytes_in_last_block(writer, 1) == ARCHIVE_OK &&
+              archive_write_open(writer, &bytes, nullptr, append, nullptr) == ARCHIVE_OK;
+    for (const TestEntry& item : entries) {
+        const size_t size = item.content.size();
+        archive_entry_clear(entry);
+        archive_entry_set_pathname(entry, item.name.c_str());
+        archive_entry_set_mode(entry, item.folder ? AE_IFDIR | 0755 : AE_IFREG | 0644);
+        archive_entry_set_size(entry, static_cast<la_int64_t>(size));
+        ok = ok && archive_write_header(writer, entry) == ARCHIVE_OK &&
+             archive_write_data(writer, item.content.data(), size) == static_cast<la_ssize_t>(size);
     }
-    return ok && archive_write_close(writer.get()) == ARCHIVE_OK ? bytes : std::string();
-}
-
-std::string MakeDamagedTar(const std::vector<TestEntry>& entries, size_t index)
-{
-    std::string bytes = MakeArchive(ARCHIVE_FORMAT_TAR_USTAR, ARCHIVE_FILTER_NONE, entries);
-    // A ustar header starts with the entry's name; changing it breaks the checksum.
-    const size_t header = bytes.find(entries.at(index).name);
-    if (header != std::string::npos)
-        bytes[header] ^= 0x20;
-    return bytes;
+    ok = ok && archive_write_close(writer) == ARCHIVE_OK;
+    archive_entry_free(entry);
+    archive_write_free(writer);
+    return ok ? bytes : std::string();
 }
 
 bool WriteBytes(const QString& path, const std::string& bytes)
 {
     QFile file(path);
     return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-               static_cast<qint64>(bytes.size());
+           file.write(bytes.data(), static_cast<qint64>(bytes.size())) == qint64(bytes.size());
 }
 
 std::string ReadBytes(const QString& path)
@@ -64,8 +53,20 @@ std::string ReadBytes(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
-std::string LogCapture::Text() const
+// Replaces gtest's main. The toolkit reads HOME, so it points into a scratch folder
+// before the application object exists; tests never see the real home folder.
+int main(int argc, char** argv)
 {
-    const std::string text = ReadBytes(path);
-    return start < text.size() ? text.substr(start) : std::string();
+    testing::InitGoogleTest(&argc, argv);
+    QTemporaryDir scratch;
+    LogCapture::path = scratch.path() + "/test.log";
+    const QString levels = scratch.path() + "/levels";
+    if (setenv("HOME", scratch.path().toUtf8().constData(), 1) != 0 ||
+        !WriteBytes(levels, "service_debug=7\nextractor_debug=7\n") ||
+        Logger::Initialize(Logger::TYPE_FILE, LogCapture::path.toUtf8().constData(),
+                           levels.toUtf8().constData(), 50) != 0)
+        return 1;
+    QCoreApplication application(argc, argv);
+    StrTable::InitStrTable();
+    return RUN_ALL_TESTS();
 }
