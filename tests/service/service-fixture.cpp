@@ -1,16 +1,13 @@
 #include "service-fixture.h"
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
-
 #include <QCoreApplication>
 
 void ServiceTest::SetUp()
 {
-    ASSERT_TRUE(home.isValid());
     saved_home = qgetenv("HOME");
-    ASSERT_TRUE(qputenv("HOME", Home().toUtf8()));
+    ASSERT_TRUE(home.isValid() && qputenv("HOME", Home().toUtf8()));
 }
 
 void ServiceTest::TearDown()
@@ -26,12 +23,16 @@ QString ServiceTest::BundleResources()
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../Resources");
 }
 
+bool ServiceTest::Write(const char* name, const std::string& bytes)
+{
+    return !bytes.empty() && WriteBytes(BundleResources() + name, bytes);
+}
+
 void ServiceTest::UseBundle()
 {
     const QString lock_path = QDir::cleanPath(BundleResources() + "/../../.test-lock");
     bundle_lock = open(lock_path.toUtf8().constData(), O_CREAT | O_RDWR | O_CLOEXEC, 0644);
-    ASSERT_GE(bundle_lock, 0);
-    ASSERT_EQ(flock(bundle_lock, LOCK_EX), 0);
+    ASSERT_TRUE(bundle_lock >= 0 && flock(bundle_lock, LOCK_EX) == 0);
     QDir(BundleResources()).removeRecursively();
     ASSERT_TRUE(QDir().mkpath(BundleResources()));
 }
