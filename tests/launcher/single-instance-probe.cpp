@@ -1,19 +1,11 @@
-// Started by the single-instance test: reports whether another instance
-// holds the guard and, when asked to, keeps its own guard until stdin closes
-// or it is killed.
+// Prints whether another instance holds the guard; with "hold", keeps its own until killed.
 #include <cstdio>
-#include <cstring>
-
 #include "qtsingleapplication.h"
 
 int main(int argc, char** argv)
 {
     QtSingleApplication app(argc, argv, true);
     std::printf("running=%d\n", app.isRunning() ? 1 : 0);
-    std::fflush(stdout);
-    if (argc > 1 && std::strcmp(argv[1], "hold") == 0) {
-        while (std::getchar() != EOF) {
-        }
+    while (std::fflush(stdout) == 0 && argc > 1 && QByteArray(argv[1]) == "hold" && std::getchar() != EOF) {
     }
-    return 0;
 }
