@@ -18,9 +18,11 @@
 #include "log.h"
 #include "tmp_name_gen.h"
 
+#define LOG_COMPONENT "file_op_debug"
+#define LOG_TAG "file-op"
+
 namespace {
 
-const char kLogComponent[] = "file_op_debug";
 
 // One heap buffer per copy; large chunks keep cross-device moves of the
 // package fast without holding the whole file.
@@ -76,18 +78,15 @@ bool isDotEntry(const ustring& name) {
 // Logs why the platform could not resolve a path, naming the step that failed.
 void logResolveFailure(fs_platform::ResolveStep step, int status) {
     if (step == fs_platform::RESOLVE_LOOKUP)
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSPathMakeRef: %d\n",
-                       __LINE__, status);
+        LOG_MSG(ERROR, "FSPathMakeRef: %d", status);
     else
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSRefMakePath: %d\n",
-                       __LINE__, status);
+        LOG_MSG(ERROR, "FSRefMakePath: %d", status);
 }
 
 // The exact half of IsFileExist: the path, in NFC, must already be the
 // canonical path. on_disk is the spelling that reached the file.
 bool isCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): Input file path = [%s].\n",
-                   __LINE__, nfc_path.c_str());
+    LOG_MSG(DEBUG, "Input file path = [%s].", nfc_path.c_str());
     char canonical[fs_platform::kPathBufferSize] = {};
     fs_platform::ResolveStep failed_step;
     const int status = fs_platform::canonical_path(on_disk.c_str(), canonical, &failed_step);
@@ -96,12 +95,10 @@ bool isCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
         return false;
     }
     const ustring nfc_canonical = ustring(canonical).normalize(ustring::NFC);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
-                   "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", __LINE__,
-                   nfc_canonical.c_str());
+    LOG_MSG(DEBUG, "FSRefMakePath outTargetPath path = [%s].", nfc_canonical.c_str());
     if (nfc_path != nfc_canonical)
         return false;
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): File exist.\n", __LINE__);
+    LOG_MSG(DEBUG, "File exist.");
     return true;
 }
 
@@ -120,16 +117,14 @@ void fillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
 int openForCopy(const ustring& path, int flags) {
     const int fd = open(path.c_str(), flags, kNewFileMode);
     if (fd < 0)
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
-                       __LINE__, path.c_str(), strerror(errno), errno);
+        LOG_MSG(ERROR, "CopyFile: open(%s): %s (%d)", path.c_str(), strerror(errno), errno);
     return fd;
 }
 
 // Logs a failed write of the copy target. A full device is told apart from
 // other write errors so that callers can say so.
 int reportWriteFailure(int error) {
-    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
-                   strerror(error), error);
+    LOG_MSG(ERROR, "CopyFile: write: %s (%d)", strerror(error), error);
     return error == ENOSPC ? -2 : -1;
 }
 
@@ -159,8 +154,8 @@ ssize_t readChunk(int fd, char* buffer) {
 int copyBytes(int src_fd, int dst_fd) {
     std::unique_ptr<char, FreeDeleter> buffer(static_cast<char*>(malloc(kCopyBufferSize)), &free);
     if (!buffer) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
-                       __LINE__, static_cast<int>(kCopyBufferSize), strerror(errno), errno);
+        LOG_MSG(ERROR, "FSCopy: malloc(%d): %s (%d)",
+                static_cast<int>(kCopyBufferSize), strerror(errno), errno);
         return -1;
     }
     ssize_t count;
@@ -170,8 +165,7 @@ int copyBytes(int src_fd, int dst_fd) {
             return status;
     }
     if (count < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n",
-                       __LINE__, strerror(errno), errno);
+        LOG_MSG(ERROR, "CopyFile: read: %s (%d)", strerror(errno), errno);
         return -1;
     }
     return 0;
@@ -256,8 +250,7 @@ void giveToConfiguredOwner(const char* path) {
     const uid_t owner = uid == kNoId ? geteuid() : uid;
     const gid_t group = gid == kNoId ? getegid() : gid;
     if (chown(path, owner, group) != 0)
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): chown(%s): %s\n", __LINE__,
-                       path, strerror(errno));
+        LOG_MSG(DEBUG, "chown(%s): %s", path, strerror(errno));
 }
 
 // Makes prefix a folder if it is not one; 0, or -1 with errno set.
@@ -364,15 +357,13 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
 }
 
 int FSGetRealPath(ustring& path) {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d):  org path [%s]\n", __LINE__,
-                   path.c_str());
+    LOG_MSG(DEBUG, " org path [%s]", path.c_str());
     char canonical[fs_platform::kPathBufferSize] = {};
     fs_platform::ResolveStep failed_step;
     if (fs_platform::canonical_path(path.c_str(), canonical, &failed_step) != 0)
         return -1;
     path = canonical;
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d):  get full path [%s]\n", __LINE__,
-                   path.c_str());
+    LOG_MSG(DEBUG, " get full path [%s]", path.c_str());
     return 0;
 }
 
@@ -414,8 +405,8 @@ int FSRename(const ustring& src, const ustring& dst, bool exact) {
     const int error = errno;
     if (error == EXDEV)
         return moveAcrossDevices(src, dst, info.type, exact);
-    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSRename: rename(%s, %s): %s (%d)\n",
-                   __LINE__, src.c_str(), dst.c_str(), strerror(error), error);
+    LOG_MSG(ERROR, "FSRename: rename(%s, %s): %s (%d)",
+            src.c_str(), dst.c_str(), strerror(error), error);
     return error == ENAMETOOLONG ? -100 : -3;
 }
 
@@ -424,29 +415,24 @@ int FSMKDir(const ustring& path, bool recursive) {
         return -1;
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n", __LINE__, path.c_str());
+        LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'", path.c_str());
         return -1;
     }
     if (info.exists) {
         if (info.type == FILE_TYPE_DIRECTORY)
             return 0;
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kLogComponent,
-            "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
-            __LINE__, path.c_str(), info.type);
+        LOG_MSG(ERROR, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)",
+                path.c_str(), info.type);
         return -1;
     }
     const int status = recursive ? FSMKDirP(path, nullptr, false, kDefaultFolderModeRequest)
                                  : mkdir(path.c_str(), kDefaultFolderMode);
     if (status != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): FSMKDir: mkdir(%s): %s (%d)\n",
-                       __LINE__, path.c_str(), strerror(errno), errno);
+        LOG_MSG(ERROR, "FSMKDir: mkdir(%s): %s (%d)", path.c_str(), strerror(errno), errno);
         return -2;
     }
     if (FSChown(path) != 0)
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] file-op(%d): chown(%s): %s\n", __LINE__,
-                       path.c_str(), strerror(errno));
+        LOG_MSG(DEBUG, "chown(%s): %s", path.c_str(), strerror(errno));
     return 0;
 }
 
@@ -502,17 +488,14 @@ int FSMktemp(const ustring& dir, ustring& out) {
         fd = mkstemp(name);
     }
     if (fd < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__,
-                       name_template.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "mkstemp(%s): %s", name_template.c_str(), strerror(errno));
         return -1;
     }
     if (syncAndClose(fd) != 0)
-        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): fsync(%s): %s\n", __LINE__,
-                       name, strerror(errno));
+        LOG_MSG(WARNING, "fsync(%s): %s", name, strerror(errno));
     out = name;
     if (chmod(name, kTempFileMode) != 0)
-        Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent, "[WARNING] file-op(%d): chmod(%s): %s\n", __LINE__,
-                       name, strerror(errno));
+        LOG_MSG(WARNING, "chmod(%s): %s", name, strerror(errno));
     return 0;
 }
 
@@ -529,9 +512,8 @@ int FSUTime(const ustring& path, long atime, long mtime) {
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
     DIR* dir = opendir(path.c_str());
     if (dir == nullptr) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n", __LINE__,
-                       path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s",
+                path.c_str(), strerror(errno));
         return -1;
     }
     handle.dir = dir;
@@ -547,9 +529,8 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     if (next == nullptr) {
         if (errno == 0)
             return 0;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n", __LINE__,
-                       handle.path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s",
+                handle.path.c_str(), strerror(errno));
         return -1;
     }
     // An entry that vanishes before it is examined keeps time and size 0.
@@ -557,9 +538,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     if (handle.flags & FS_DIR_WITH_INFO) {
         const ustring full_path = childPath(handle.path, next->d_name);
         if (FSStat(full_path, info, true) < 0) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                           "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n", __LINE__,
-                           full_path.c_str());
+            LOG_MSG(ERROR, "FSOpenDir: Failed to get info for '%s'", full_path.c_str());
             return -1;
         }
     }
@@ -590,9 +569,8 @@ bool isFileLocked(const ustring& path, int mode) {
 bool isMountPoint(const ustring& path) {
     std::string name;
     if (fs_platform::type_name(path.c_str(), &name) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n", __LINE__,
-                       path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "isMountPoint: Failed to get file system info '%s'. %s",
+                path.c_str(), strerror(errno));
         return false;
     }
     return name == "nfs" || name == "smbfs" || name == "afpfs";
@@ -601,14 +579,12 @@ bool isMountPoint(const ustring& path) {
 bool IsMSDOS(const ustring& path) {
     std::string name;
     if (fs_platform::type_name(path.c_str(), &name) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
-                       __LINE__, path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "IsSupportLargeFile: Failed to get file system info '%s'. %s",
+                path.c_str(), strerror(errno));
         return false;
     }
     if (name != "msdos")
         return false;
-    Logger::LogMsg(Logger::LEVEL_WARNING, kLogComponent,
-                   "[WARNING] file-op(%d): Detect a MSDOS platform for path '%s'.\n", __LINE__, path.c_str());
+    LOG_MSG(WARNING, "Detect a MSDOS platform for path '%s'.", path.c_str());
     return true;
 }

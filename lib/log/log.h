@@ -10,11 +10,10 @@
 
 #include "ustring.h"
 
-// The process-wide logger. Callers pass a printf-style format that starts
-// with the level's tag and the source position, for example
-//   Logger::LogMsg(Logger::LEVEL_ERROR, "extractor_debug",
-//                  "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
-// The logger adds only a timestamp.
+// The process-wide logger. Every message starts with the level's tag and the
+// source position and ends with a newline, for example
+//   Nov 16 20:31:15 [ERROR] extractor(22): Invalid Argument
+// The logger itself adds only the timestamp; LOG_MSG below writes the rest.
 class Logger {
 public:
     enum Type : int32_t { TYPE_SYSLOG = 1, TYPE_STDOUT = 2, TYPE_STDERR = 3, TYPE_FILE = 4 };
@@ -54,5 +53,20 @@ private:
 
 void LogMSG_c(int level, char* component, const char* format, va_list args)
     __attribute__((format(printf, 3, 0)));
+
+// Logs one message in the shape above from a single level name (ERROR,
+// WARNING, NOTE, INFO or DEBUG), so that the level and its tag cannot
+// disagree and no newline can be forgotten. The source file defines
+// LOG_COMPONENT (the threshold's component, "service_debug") and LOG_TAG (its
+// name in the text, "cloud-service") before using it:
+//   LOG_MSG(ERROR, "failed to create folder: '%s'", path.c_str_utf8());
+#define LOG_MSG(level, format, ...)                                                         \
+    Logger::LogMsg(Logger::LEVEL_##level, LOG_COMPONENT, "[" #level "] " LOG_TAG "(%d): " \
+                   format "\n", __LINE__, ##__VA_ARGS__)
+
+// The same for the few messages whose text ends without a newline.
+#define LOG_MSG_WITHOUT_NEWLINE(level, format, ...)                                         \
+    Logger::LogMsg(Logger::LEVEL_##level, LOG_COMPONENT, "[" #level "] " LOG_TAG "(%d): " \
+                   format, __LINE__, ##__VA_ARGS__)
 
 #endif  // LOG_H

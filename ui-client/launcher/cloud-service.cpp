@@ -13,6 +13,9 @@
 #include "log.h"
 #include "qt-ustring.h"
 
+#define LOG_COMPONENT "service_debug"
+#define LOG_TAG "cloud-service"
+
 namespace {
 
 const char kResourcesFolder[] = "/Contents/Resources";
@@ -51,9 +54,7 @@ ustring GetAppBackupDir(const ustring& app, int n)
         return dir;
     char number[kBackupNumberSize];
     if (snprintf(number, sizeof(number), "%d", n) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, Service::kLogComponent,
-                       "[ERROR] cloud-service(%d): snprintf failed (continuing without postfix)",
-                       __LINE__);
+        LOG_MSG_WITHOUT_NEWLINE(ERROR, "snprintf failed (continuing without postfix)");
         number[0] = '\0';
     }
     return dir + number;
@@ -67,14 +68,11 @@ int MoveAppAside(const ustring& app, ustring& backup)
         backup = GetAppBackupDir(app, index);
         if (FSRename(app, backup, false) == 0)
             return index;
-        Logger::LogMsg(Logger::LEVEL_ERROR, Service::kLogComponent,
-                       "[ERROR] cloud-service(%d): failed to backup app from '%s' -> '%s'\n",
-                       __LINE__, app.c_str_utf8(), backup.c_str_utf8());
+        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'",
+                app.c_str_utf8(), backup.c_str_utf8());
     }
-    Logger::LogMsg(Logger::LEVEL_ERROR, Service::kLogComponent,
-                   "[ERROR] cloud-service(%d): failed to backup app from '%s' -> '%s' at max "
-                   "retries, exiting\n",
-                   __LINE__, app.c_str_utf8(), backup.c_str_utf8());
+    LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting",
+            app.c_str_utf8(), backup.c_str_utf8());
     return -1;
 }
 
@@ -125,10 +123,8 @@ void Service::LoadTargetVersion()
     const ustring path = GetRootDroviaResourceInstallPath() + "/" + kVersionFileName;
     ReadVersionFile(path, target_major_version, target_minor_version, target_build_version,
                     target_icon_overlay_version);
-    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
-                   "[INFO] cloud-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
-                   target_major_version.c_str_utf8(), target_minor_version.c_str_utf8(),
-                   target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
+    LOG_MSG(INFO, "target_version = (%s, %s, %s, %s)",
+            target_major_version.c_str_utf8(), target_minor_version.c_str_utf8(), target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
 }
 
 void Service::LoadSourceVersion()
@@ -136,16 +132,13 @@ void Service::LoadSourceVersion()
     const ustring path =
         GetUserDroviaAppInstallPath() + kResourcesFolder + "/" + kVersionFileName;
     if (!IsFileExist(path, false)) {
-        Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
-                       "[INFO] cloud-service(%d): source does not exist\n", __LINE__);
+        LOG_MSG(INFO, "source does not exist");
         return;
     }
     ReadVersionFile(path, source_major_version, source_minor_version, source_build_version,
                     source_icon_overlay_version);
-    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
-                   "[INFO] cloud-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
-                   source_major_version.c_str_utf8(), source_minor_version.c_str_utf8(),
-                   source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
+    LOG_MSG(INFO, "source_version = (%s, %s, %s, %s)",
+            source_major_version.c_str_utf8(), source_minor_version.c_str_utf8(), source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
 }
 
 int Service::ExtractPackage()
@@ -153,14 +146,10 @@ int Service::ExtractPackage()
     const ustring archive = GetRootDroviaResourceInstallPath() + kPackageArchive;
     const ustring destination = GetUserDroviaAppInstallPath();
     if (FSMKDir(destination, true) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] cloud-service(%d): failed to create folder: '%s'\n", __LINE__,
-                       destination.c_str_utf8());
+        LOG_MSG(ERROR, "failed to create folder: '%s'", destination.c_str_utf8());
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
-                   "[INFO] cloud-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
-                   archive.c_str_utf8(), destination.c_str_utf8());
+    LOG_MSG(INFO, "extract package: '%s' -> '%s'", archive.c_str_utf8(), destination.c_str_utf8());
     Extractor extractor;
     extractor.archive_path = archive;
     extractor.dest_path = destination;
@@ -179,25 +168,16 @@ int Service::PrepareUserEnv()
     }
 
     if (ExtractPackage() == 0) {
-        Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
-                       "[INFO] cloud-service(%d): user installation is ready, removing backup "
-                       "app\n",
-                       __LINE__);
+        LOG_MSG(INFO, "user installation is ready, removing backup app");
         RemoveBackups(app, backup_index);
         return 0;
     }
 
     if (backup.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] cloud-service(%d): Failed to extract package, and no old "
-                       "installation to rollback\n",
-                       __LINE__);
+        LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback");
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                   "[ERROR] cloud-service(%d): Failed to extract package, rollback to old "
-                   "installation\n",
-                   __LINE__);
+    LOG_MSG(ERROR, "Failed to extract package, rollback to old installation");
     // A rollback that fails half-way has no better fallback than what the
     // file layer leaves; the caller already learns that the upgrade failed.
     FSRemove(app, false);
@@ -208,8 +188,6 @@ int Service::PrepareUserEnv()
 void Service::RemoveAgedFolders()
 {
     const ustring aged = GetUserDroviaInstallPath() + kAgedAppFolder;
-    Logger::LogMsg(Logger::LEVEL_INFO, kLogComponent,
-                   "[INFO] cloud-service(%d): removing aged app folder %s\n", __LINE__,
-                   aged.c_str_utf8());
+    LOG_MSG(INFO, "removing aged app folder %s", aged.c_str_utf8());
     FSRemove(aged, false);
 }

@@ -38,9 +38,6 @@ public:
     static ustring GetUserDroviaInstallPath();
     static ustring GetUserDroviaAppInstallPath();
 
-    // Log component of every message of the service and its helpers.
-    static constexpr const char kLogComponent[] = "service_debug";
-
 protected:
     int timeout = 0;
     ustring user_app_path;

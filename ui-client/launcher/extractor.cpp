@@ -10,9 +10,11 @@
 #include "notify-adapter.h"
 #include "strtable.h"
 
+#define LOG_COMPONENT "extractor_debug"
+#define LOG_TAG "extractor"
+
 namespace {
 
-const char kLogComponent[] = "extractor_debug";
 const size_t kReadBlockSize = 10240;
 const int kPreparingLabelId = 393;  // "Drovia is initializing..."
 
@@ -50,20 +52,16 @@ int OpenForReading(archive* reader, const ustring& path)
 ReadHandle OpenEntryWalk(const ustring& archive_path, const ustring& dest_path)
 {
     if (archive_path.empty() || dest_path.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): Invalid argument\n", __LINE__);
+        LOG_MSG(ERROR, "Invalid argument");
         return nullptr;
     }
     ReadHandle reader(archive_read_new());
     if (!reader) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): Allocate archive failed\n", __LINE__);
+        LOG_MSG(ERROR, "Allocate archive failed");
         return nullptr;
     }
     if (OpenForReading(reader.get(), archive_path) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n",
-                       __LINE__, ErrorText(reader.get()));
+        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'", ErrorText(reader.get()));
         return nullptr;
     }
     return reader;
@@ -75,8 +73,7 @@ int WriteEntry(archive* reader, archive* writer, archive_entry* entry, const ust
 {
     const char* name = archive_entry_pathname(entry);
     if (!name) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+        LOG_MSG_WITHOUT_NEWLINE(ERROR, "archive_entry_pathname failed");
         return -1;
     }
     const ustring target = dest_path + "/" + name;
@@ -84,9 +81,7 @@ int WriteEntry(archive* reader, archive* writer, archive_entry* entry, const ust
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
         // A read that fails inside the copy leaves its message on the reader only.
         const char* reason = archive_error_string(writer) ? ErrorText(writer) : ErrorText(reader);
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
-                       reason);
+        LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'", reason);
         return -1;
     }
     return 0;
@@ -101,18 +96,14 @@ int ExtractEntries(archive* reader, archive* writer, const ustring& dest_path, i
         if (status == ARCHIVE_EOF)
             return 0;
         if (status != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                           "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n",
-                           __LINE__, ErrorText(reader));
+            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'", ErrorText(reader));
             return -1;
         }
         if (WriteEntry(reader, writer, entry, dest_path) != 0)
             return -1;
         Notify_Adapter::GetInstance()->UpdateProgress(total, current);
         if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n",
-                           __LINE__, ErrorText(writer));
+            LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'", ErrorText(writer));
             return -1;
         }
     }
@@ -123,21 +114,17 @@ int ExtractEntries(archive* reader, archive* writer, const ustring& dest_path, i
 int Extractor::Extract()
 {
     if (archive_path.empty() || dest_path.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
+        LOG_MSG(ERROR, "Invalid Argument");
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
-                   "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__,
-                   archive_path.c_str_utf8(), dest_path.c_str_utf8());
+    LOG_MSG(DEBUG, "decompress from '%s' to '%s'",
+            archive_path.c_str_utf8(), dest_path.c_str_utf8());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingLabelId));
 
     // Refusing an empty archive here keeps the progress total at 1 or more.
     const int total = Count();
     if (total < 1) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n",
-                       __LINE__, total);
+        LOG_MSG(ERROR, "Failed to calculate total file numbers, ret: %d", total);
         return -1;
     }
 
@@ -146,14 +133,12 @@ int Extractor::Extract()
     // Setting options only fails on a broken handle, so it counts as allocation.
     if (!reader || !writer ||
         archive_write_disk_set_options(writer.get(), kDiskWriteOptions) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        LOG_MSG(ERROR, "Allocate extractor failed");
         return -1;
     }
     if (OpenForReading(reader.get(), archive_path) != ARCHIVE_OK) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
-                       archive_path.c_str_utf8(), ErrorText(reader.get()));
+        LOG_MSG(ERROR, "Failed to read file '%s' ('%s')",
+                archive_path.c_str_utf8(), ErrorText(reader.get()));
         return -1;
     }
     return ExtractEntries(reader.get(), writer.get(), dest_path, total);
@@ -192,8 +177,7 @@ int Extractor::List()
 int Extractor::copy_data(archive* reader, archive* writer)
 {
     if (!reader || !writer) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] extractor(%d): Invalid Argument\n", __LINE__);
+        LOG_MSG(ERROR, "Invalid Argument");
         return -1;
     }
     for (;;) {
@@ -204,15 +188,11 @@ int Extractor::copy_data(archive* reader, archive* writer)
         if (status == ARCHIVE_EOF)
             return 0;
         if (status != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n",
-                           __LINE__, ErrorText(reader));
+            LOG_MSG(ERROR, "archive_read_data_block failed: '%s'", ErrorText(reader));
             return -1;
         }
         if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n",
-                           __LINE__, ErrorText(writer));
+            LOG_MSG(ERROR, "archive_write_data_block failed: '%s'", ErrorText(writer));
             return -1;
         }
     }

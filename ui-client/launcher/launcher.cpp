@@ -7,9 +7,11 @@
 #include "processing-progress-dialog.h"
 #include "worker.h"
 
+#define LOG_COMPONENT "launcher_debug"
+#define LOG_TAG "launcher"
+
 namespace {
 
-const char kLogComponent[] = "launcher_debug";
 const int kPercentScale = 100;
 
 struct SignalRoute {
@@ -93,7 +95,6 @@ void Launcher::ConnectSignals()
     };
     for (const SignalRoute& route : routes) {
         if (!connect(route.sender, route.signal, route.receiver, route.slot))
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] launcher(%d): cannot connect %s to %s\n",
-                           __LINE__, route.signal, route.slot);
+            LOG_MSG(ERROR, "cannot connect %s to %s", route.signal, route.slot);
     }
 }

@@ -17,9 +17,11 @@
 #include "qtsingleapplication.h"
 #include "strtable.h"
 
+#define LOG_COMPONENT "launcher_debug"
+#define LOG_TAG "main"
+
 namespace {
 
-const char kLogComponent[] = "launcher_debug";
 const int kLogRotateCount = 50;
 
 // Named textually from argv[0], as in a bundle: Contents/MacOS/launcher
@@ -67,8 +69,7 @@ int main(int argc, char** argv)
     QtSingleApplication app(argc, argv, true);
     OpenLog();
     if (app.isRunning()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] main(%d): app has already launched, return\n",
-                       __LINE__);
+        LOG_MSG(DEBUG, "app has already launched, return");
         return 0;
     }
 

@@ -8,9 +8,11 @@
 #include "mac/mac-service.h"
 #include "strtable.h"
 
+#define LOG_COMPONENT "launcher_debug"
+#define LOG_TAG "launcher"
+
 namespace {
 
-const char kLogComponent[] = "launcher_debug";
 const int kProgressComplete = 100;
 const int kReadyTextId = 465;
 
@@ -50,16 +52,16 @@ void Worker::JoinThread()
 
 void Worker::HandleServicce()
 {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] launcher(%d): running\n", __LINE__);
+    LOG_MSG(DEBUG, "running");
     service->PreUpgrade();
     if (service->IsNeedUpgrade())
         UpgradePackage();
     else
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] launcher(%d): no need to upgrade\n", __LINE__);
+        LOG_MSG(DEBUG, "no need to upgrade");
 
     service->RemoveAgedFolders();
     service->PostUpgrade();
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent, "[DEBUG] launcher(%d): done\n", __LINE__);
+    LOG_MSG(DEBUG, "done");
     emit sigServiceDone();
 }
 
@@ -67,8 +69,7 @@ void Worker::UpgradePackage()
 {
     emit sigShowMsg();
     if (service->HandlePackageUpgrade() != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "[ERROR] launcher(%d): Failed to upgrade package\n",
-                       __LINE__);
+        LOG_MSG(ERROR, "Failed to upgrade package");
         return;
     }
     emit sigUpdateProgress(kProgressComplete, kProgressComplete);

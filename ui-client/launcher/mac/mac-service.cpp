@@ -18,6 +18,9 @@
 #include "log.h"
 #include "mac/client-launch.h"
 
+#define LOG_COMPONENT "service_debug"
+#define LOG_TAG "mac/mac-service"
+
 namespace {
 
 const int kDefaultTimeout = 10000;
@@ -56,12 +59,10 @@ void MacService::PreUpgrade()
 {
     LoadTargetVersion();
     LoadSourceVersion();
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
-                   "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
-                   source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
-                   "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
-                   target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
+    LOG_MSG(DEBUG, "Source version: ('%s', '%s')",
+            source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
+    LOG_MSG(DEBUG, "Target version: ('%s', '%s')",
+            target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
 }
 
 // Only the build number decides; a missing client executable forces a
@@ -70,9 +71,7 @@ bool MacService::IsNeedUpgrade()
 {
     const int source = Config::to_int(source_build_version);
     const int target = Config::to_int(target_build_version);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
-                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n",
-                   __LINE__, source, target);
+    LOG_MSG(DEBUG, "source version = %d, target version = %d", source, target);
     const bool client_present = PerUserBinPathExist();
     return target > source || !client_present;
 }
@@ -80,8 +79,7 @@ bool MacService::IsNeedUpgrade()
 int MacService::HandlePackageUpgrade()
 {
     if (PerUserBinPathExist()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
-                       "[DEBUG] mac/mac-service(%d): local appdata exist\n", __LINE__);
+        LOG_MSG(DEBUG, "local appdata exist");
         StopService();
     }
     return PrepareUserEnv();
@@ -92,16 +90,11 @@ void MacService::StopService()
     const ustring pid_file = GetUserDroviaInstallPath() + kPidFileName;
     Config config;
     if (!IsFileExist(pid_file, false)) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kLogComponent,
-                       "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to "
-                       "terminate\n",
-                       __LINE__, pid_file.c_str_utf8());
+        LOG_MSG(DEBUG, "pid file '%s' does not exist, no need to terminate", pid_file.c_str_utf8());
         return;
     }
     if (config.read(pid_file) != 0) {
-        Logger::LogMsg(Logger::LEVEL_NOTE, kLogComponent,
-                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n",
-                       __LINE__, pid_file.c_str_utf8());
+        LOG_MSG(NOTE, "Failed to read pid file '%s', not exist ?", pid_file.c_str_utf8());
         return;
     }
     const pid_t pid = ClientPid(config.entries[kPidKey]);
@@ -118,9 +111,7 @@ void MacService::TerminateClient(pid_t pid)
         const int error = errno;
         if (error == ESRCH)
             return;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] mac/mac-service(%d): kill: %s (%d)\n", __LINE__,
-                       strerror(error), error);
+        LOG_MSG(ERROR, "kill: %s (%d)", strerror(error), error);
     }
     if (!WaitForExit(pid))
         SendSignal(pid, SIGKILL);
@@ -156,7 +147,6 @@ int MacService::LaunchPerUserBin()
 void MacService::PostUpgrade()
 {
     if (LaunchPerUserBin() < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent,
-                       "[ERROR] mac/mac-service(%d): Failed to launch Drovia UI\n", __LINE__);
+        LOG_MSG(ERROR, "Failed to launch Drovia UI");
     }
 }
