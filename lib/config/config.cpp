@@ -1,16 +1,19 @@
 #include "config.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <string>
 #include <string_view>
 
 namespace {
 
-// Lines are read in pieces of at most LINE_BUFFER_SIZE - 1 bytes, as fgets
-// would with a buffer of this size; a longer line is parsed piece by piece.
+// fgets reads lines in pieces of at most LINE_BUFFER_SIZE - 1 bytes; a
+// longer line is parsed piece by piece.
 const std::size_t LINE_BUFFER_SIZE = 8192;
 
 enum LineResult { LINE_IGNORED, LINE_ENTRY, LINE_SYNTAX_ERROR };
@@ -47,24 +50,6 @@ std::size_t skip_key(std::string_view line, std::size_t pos)
     while (pos < line.size() && is_key_char(line[pos]))
         ++pos;
     return pos;
-}
-
-// Reads like fgets into a buffer of LINE_BUFFER_SIZE bytes, but keeps the
-// count of bytes read. NUL bytes are therefore ordinary (control) bytes of
-// the line rather than a silent end of it, so a file holding them fails the
-// read instead of yielding truncated values. False at end of file.
-bool read_piece(FILE* file, std::string& piece)
-{
-    piece.clear();
-    while (piece.size() < LINE_BUFFER_SIZE - 1) {
-        const int c = getc(file);
-        if (c == EOF)
-            break;
-        piece.push_back(static_cast<char>(c));
-        if (c == '\n')
-            break;
-    }
-    return !piece.empty();
 }
 
 // A quoted value ends at the same quote and may not hold control bytes; a
@@ -120,21 +105,42 @@ ustring to_ustring(std::string_view text)
     return result;
 }
 
+// Only a regular file is read: a FIFO or a device named like a pid or level
+// file would block the caller or never end. Opening without blocking lets
+// the check come first; reading a regular file never blocks anyway.
+FilePtr open_regular_file(const ustring& path)
+{
+    const int fd = open(path.c_str_utf8(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return FilePtr(nullptr, &fclose);
+    struct stat st;
+    if (fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        close(fd);
+        return FilePtr(nullptr, &fclose);
+    }
+    FILE* file = fdopen(fd, "r");
+    if (file == nullptr)
+        close(fd);
+    return FilePtr(file, &fclose);
+}
+
 }  // namespace
 
 int Config::read(const ustring& path)
 {
     if (path.empty())
         return -1;
-    FilePtr file(fopen(path.c_str_utf8(), "r"), &fclose);
+    FilePtr file = open_regular_file(path);
     if (!file)
         return -1;
 
-    std::string piece;
-    while (read_piece(file.get(), piece)) {
+    // Each line is a C string: a zero byte ends it, so the padding a crash
+    // leaves behind a pid reads as the end of the line, or as a blank line.
+    char buffer[LINE_BUFFER_SIZE];
+    while (fgets(buffer, sizeof buffer, file.get()) != nullptr) {
         std::string_view key;
         std::string_view value;
-        const LineResult result = parse_line(piece, key, value);
+        const LineResult result = parse_line(buffer, key, value);
         if (result == LINE_SYNTAX_ERROR) {
             entries.clear();
             return -1;
@@ -142,7 +148,7 @@ int Config::read(const ustring& path)
         if (result == LINE_ENTRY)
             entries[to_ustring(key)] = to_ustring(value);
     }
-    // getc reports a read error (a folder, an I/O error) as the end of the
+    // fgets reports a read error (a folder, an I/O error) as the end of the
     // file; what was read so far may be only part of the entries.
     if (ferror(file.get())) {
         entries.clear();
@@ -158,8 +164,7 @@ int Config::get_int(const ustring& key)
 
 int Config::to_int(const ustring& text)
 {
-    // Values never hold NUL bytes (they are control bytes), so the C string
-    // is the whole value.
+    // Values are C strings of the file's lines, so they hold no zero byte.
     const long number = std::strtol(text.c_str_utf8(), nullptr, 10);
     if (number > INT_MAX)
         return INT_MAX;
