@@ -115,7 +115,7 @@ void fillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
 }
 
 int openForCopy(const ustring& path, int flags) {
-    const int fd = open(path.c_str(), flags, kNewFileMode);
+    const int fd = open(path.c_str(), flags | O_CLOEXEC, kNewFileMode);
     if (fd < 0)
         LOG_MSG(ERROR, "CopyFile: open(%s): %s (%d)", path.c_str(), strerror(errno), errno);
     return fd;

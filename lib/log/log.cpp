@@ -1,6 +1,8 @@
 #include "log.h"
 
+#include <fcntl.h>
 #include <syslog.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <ctime>
@@ -50,6 +52,19 @@ void close_if_owned(FILE* stream)
 {
     if (stream != nullptr && stream != stdout && stream != stderr)
         (void)fclose(stream);
+}
+
+// Opened close-on-exec: a program the launcher starts must not keep the log
+// open, nor anything that waits for the launcher's descriptors to close.
+FILE* open_for_appending(const char* path)
+{
+    const int fd = open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    if (fd < 0)
+        return nullptr;
+    FILE* stream = fdopen(fd, "a");
+    if (stream == nullptr)
+        close(fd);
+    return stream;
 }
 
 // An overlong name is truncated rather than overflowing the buffer.
@@ -145,7 +160,7 @@ int Logger::Rotate()
     format_rotated_name(to, live_path, 0);
     if (rename(live_path, to) != 0)
         return -1;
-    log_fp = fopen(live_path, "a");
+    log_fp = open_for_appending(live_path);
     return log_fp != nullptr ? 0 : -1;
 }
 
@@ -181,7 +196,7 @@ int Logger::open_file(const ustring& path, int rotation_slots)
 {
     if (path.empty())
         return -1;
-    FILE* stream = fopen(path.c_str_utf8(), "a");
+    FILE* stream = open_for_appending(path.c_str_utf8());
     if (stream == nullptr)
         return -1;
     close_if_owned(log_fp);

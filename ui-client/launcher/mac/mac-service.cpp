@@ -3,8 +3,9 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <QByteArray>
 #include <QDir>
-#include <QString>
+#include <QSaveFile>
 
 #include <cerrno>
 #include <chrono>
@@ -15,8 +16,10 @@
 
 #include "config.h"
 #include "file-op.h"
+#include "install-layout.h"
 #include "log.h"
-#include "mac/client-launch.h"
+#include "mac/client-process.h"
+#include "qt-ustring.h"
 
 #define LOG_COMPONENT "service_debug"
 #define LOG_TAG "mac/mac-service"
@@ -24,10 +27,11 @@
 namespace {
 
 const int kDefaultTimeout = 10000;
-const char kPidFileName[] = "/ui.pid";
 const char kPidKey[] = "pid";
 const int kExitProbes = 5;
 const unsigned kProbeIntervalSeconds = 1;
+
+enum PidFileState { PID_FILE_MISSING, PID_FILE_UNREADABLE, PID_FILE_READ };
 
 // 0 when text names no single process: kill() with 0 or a negative pid
 // addresses a whole process group, the launcher's own included.
@@ -37,6 +41,19 @@ pid_t ClientPid(const ustring& text)
     if (value <= 0 || value > INT_MAX)
         return 0;
     return static_cast<pid_t>(value);
+}
+
+// pid is the file's "pid", or 0 when the file names no single process.
+PidFileState ReadPidFile(const ustring& path, pid_t& pid)
+{
+    pid = 0;
+    if (!IsFileExist(path, false))
+        return PID_FILE_MISSING;
+    Config config;
+    if (config.read(path) != 0)
+        return PID_FILE_UNREADABLE;
+    pid = ClientPid(config.entries[kPidKey]);
+    return PID_FILE_READ;
 }
 
 }  // namespace
@@ -51,18 +68,17 @@ MacService::~MacService() = default;
 
 bool MacService::PerUserBinPathExist()
 {
-    const ustring executable = user_app_path + "/" + kBundleClientExecutable;
-    return access(executable.c_str_utf8(), F_OK) == 0;
+    return access(ClientExecutable().c_str_utf8(), F_OK) == 0;
 }
 
 void MacService::PreUpgrade()
 {
     LoadTargetVersion();
     LoadSourceVersion();
-    LOG_MSG(DEBUG, "Source version: ('%s', '%s')",
-            source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
-    LOG_MSG(DEBUG, "Target version: ('%s', '%s')",
-            target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
+    LOG_MSG(DEBUG, "Source version: ('%s', '%s')", source_build_version.c_str_utf8(),
+            source_icon_overlay_version.c_str_utf8());
+    LOG_MSG(DEBUG, "Target version: ('%s', '%s')", target_build_version.c_str_utf8(),
+            target_icon_overlay_version.c_str_utf8());
 }
 
 // Only the build number decides; a missing client executable forces a
@@ -87,20 +103,53 @@ int MacService::HandlePackageUpgrade()
 
 void MacService::StopService()
 {
-    const ustring pid_file = GetUserDroviaInstallPath() + kPidFileName;
-    Config config;
-    if (!IsFileExist(pid_file, false)) {
+    const ustring pid_file = PerUserFile(layout::kPidFile);
+    pid_t pid = 0;
+    switch (ReadPidFile(pid_file, pid)) {
+    case PID_FILE_MISSING:
         LOG_MSG(DEBUG, "pid file '%s' does not exist, no need to terminate", pid_file.c_str_utf8());
-        return;
-    }
-    if (config.read(pid_file) != 0) {
+        break;
+    case PID_FILE_UNREADABLE:
         LOG_MSG(NOTE, "Failed to read pid file '%s', not exist ?", pid_file.c_str_utf8());
-        return;
+        break;
+    case PID_FILE_READ:
+        StopClient(pid);
+        break;
     }
-    const pid_t pid = ClientPid(config.entries[kPidKey]);
+    // A client that another launcher started moments ago may not have
+    // written its pid file yet.
+    const pid_t launched = LaunchedClientPid();
+    if (launched != pid)
+        StopClient(launched);
+}
+
+void MacService::StopClient(pid_t pid)
+{
+    if (IsPerUserClient(pid))
+        TerminateClient(pid);
+}
+
+// A pid file outlives its client, and its number may since name another
+// program of the user's. Only a process that runs the per-user client's own
+// executable counts; anything else is left alone, as if no client ran.
+bool MacService::IsPerUserClient(pid_t pid)
+{
     if (pid <= 0)
-        return;
-    TerminateClient(pid);
+        return false;
+    const ustring executable = ExecutableOf(pid);
+    if (executable.empty()) {
+        const int error = errno;
+        if (error != ENOENT)
+            LOG_MSG(NOTE, "cannot tell what process %d runs (%s), leaving it alone", pid, strerror(error));
+        return false;
+    }
+    ustring client = ClientExecutable();
+    FSGetRealPath(client);
+    if (executable == client)
+        return true;
+    LOG_MSG(NOTE, "process %d runs '%s', not the Drovia client, leaving it alone", pid,
+            executable.c_str_utf8());
+    return false;
 }
 
 // SIGTERM first so the client can save its state; SIGKILL only if it is still
@@ -138,15 +187,73 @@ void MacService::PauseSeconds(unsigned seconds)
     std::this_thread::sleep_for(std::chrono::seconds(seconds));
 }
 
+ustring MacService::ExecutableOf(pid_t pid)
+{
+    return client_process::ExecutableOf(pid);
+}
+
+ustring MacService::ClientExecutable() const
+{
+    return user_app_path + "/" + layout::kClientExecutable;
+}
+
+ustring MacService::PerUserFile(const char* name) const
+{
+    return GetUserDroviaInstallPath() + "/" + name;
+}
+
+pid_t MacService::LaunchedClientPid() const
+{
+    pid_t pid = 0;
+    ReadPidFile(PerUserFile(layout::kLaunchRecord), pid);
+    return pid;
+}
+
+// The client that runs now, by its pid file or by the record of the last
+// start; 0 when none runs.
+pid_t MacService::RunningClientPid()
+{
+    pid_t pid = 0;
+    ReadPidFile(PerUserFile(layout::kPidFile), pid);
+    if (IsPerUserClient(pid))
+        return pid;
+    const pid_t launched = LaunchedClientPid();
+    return launched != pid && IsPerUserClient(launched) ? launched : 0;
+}
+
 int MacService::LaunchPerUserBin()
 {
-    const QString bundle = QDir::homePath() + "/.Drovia/Drovia.app";
-    return StartClientBundle(bundle) ? 0 : -1;
+    if (!client_process::kOpeningFindsRunningClient) {
+        const pid_t running = RunningClientPid();
+        if (running > 0) {
+            LOG_MSG(NOTE, "Drovia UI already runs as process %d, not starting another", running);
+            return 0;
+        }
+    }
+    const QString bundle = QDir::homePath() + "/" + layout::kUserFolder + "/" + layout::kBundleName;
+    const pid_t started = client_process::OpenBundle(ToUstring(bundle));
+    if (started < 0)
+        return -1;
+    RecordLaunch(started);
+    return 0;
+}
+
+// The launcher's own note of the client it started, for a launcher of
+// another bundle copy that may come before the client has written its pid
+// file. The pid file itself stays the client's.
+void MacService::RecordLaunch(pid_t pid)
+{
+    if (pid <= 0)
+        return;
+    const ustring path = PerUserFile(layout::kLaunchRecord);
+    const QByteArray line = "pid=" + QByteArray::number(pid) + "\n";
+    QSaveFile record(ToQString(path));
+    if (!record.open(QIODevice::WriteOnly) || record.write(line) != line.size() || !record.commit())
+        LOG_MSG(WARNING, "cannot record the started client in '%s'", path.c_str_utf8());
 }
 
 void MacService::PostUpgrade()
 {
-    if (LaunchPerUserBin() < 0) {
+    if (LaunchPerUserBin() < 0)
         LOG_MSG(ERROR, "Failed to launch Drovia UI");
-    }
 }

@@ -7,7 +7,8 @@
 
 // The desktop platform's service: decides on the upgrade, stops the running
 // client by the pid it leaves in ~/.Drovia/ui.pid, and starts the per-user
-// client afterwards.
+// client afterwards. A process counts as the client only when it runs the
+// per-user client's executable, so nothing else of the user's is signalled.
 class MacService : public Service {
 public:
     MacService();
@@ -21,16 +22,26 @@ public:
 
     // Whether ~/.Drovia/Drovia.app holds a client executable.
     bool PerUserBinPathExist();
-    // 0 when the per-user client was started, -1 otherwise.
+    // 0 when the per-user client was started or already runs, -1 otherwise.
     int LaunchPerUserBin();
 
 protected:
-    // kill(2) and a pause, apart so that the stop sequence can be followed
-    // without signalling anything. SendSignal returns 0, or -1 with errno set.
+    // kill(2), a pause and the executable a process runs, apart so that the
+    // stop sequence can be followed without signalling anything. SendSignal
+    // returns 0, or -1 with errno set; ExecutableOf is empty with errno set
+    // (ENOENT: no such process) when it cannot tell.
     virtual int SendSignal(pid_t pid, int signal_number);
     virtual void PauseSeconds(unsigned seconds);
+    virtual ustring ExecutableOf(pid_t pid);
 
 private:
+    ustring ClientExecutable() const;
+    ustring PerUserFile(const char* name) const;
+    bool IsPerUserClient(pid_t pid);
+    pid_t LaunchedClientPid() const;
+    pid_t RunningClientPid();
+    void RecordLaunch(pid_t pid);
+    void StopClient(pid_t pid);
     void TerminateClient(pid_t pid);
     bool WaitForExit(pid_t pid);
 };
