@@ -1,5 +1,6 @@
 target_sources(launcher_core PRIVATE
     handler-thread.cpp
+    installation-lock.cpp
     launcher.cpp
     worker.cpp)
 

@@ -4,6 +4,8 @@
 
 #include "cloud-service.h"
 #include "handler-thread.h"
+#include "install-layout.h"
+#include "installation-lock.h"
 #include "log.h"
 #include "mac/mac-service.h"
 #include "strtable.h"
@@ -53,6 +55,8 @@ void Worker::JoinThread()
 void Worker::HandleServicce()
 {
     LOG_MSG(DEBUG, "running");
+    InstallationLock lock(Service::GetUserDroviaInstallPath() + "/" + layout::kLockFile);
+    WaitForOtherLaunchers(lock);
     service->PreUpgrade();
     if (service->IsNeedUpgrade())
         UpgradePackage();
@@ -61,8 +65,21 @@ void Worker::HandleServicce()
 
     service->RemoveAgedFolders();
     service->PostUpgrade();
+    lock.Release();
     LOG_MSG(DEBUG, "done");
     emit sigServiceDone();
+}
+
+// Another copy of the bundle may be replacing the installation or starting
+// the client. The versions are read only once it is done, so the two never
+// unpack over each other and the second one finds the first one's client.
+void Worker::WaitForOtherLaunchers(InstallationLock& lock)
+{
+    if (lock.TryAcquire())
+        return;
+    LOG_MSG(DEBUG, "another launcher is preparing Drovia, waiting for it");
+    emit sigShowMsg();
+    lock.Acquire();
 }
 
 void Worker::UpgradePackage()

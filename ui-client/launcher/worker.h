@@ -5,6 +5,7 @@
 #include <QString>
 
 class HandlerThread;
+class InstallationLock;
 class Service;
 
 // Runs the upgrade service off the GUI thread: it moves itself to a thread of
@@ -34,6 +35,7 @@ private slots:
     void HandleServicce();
 
 private:
+    void WaitForOtherLaunchers(InstallationLock& lock);
     void UpgradePackage();
     void FinishPendingWork();
 
