@@ -1,5 +1,7 @@
 #include "cloud-service.h"
 
+#include <sys/stat.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
@@ -10,6 +12,7 @@
 
 #include "extractor.h"
 #include "file-op.h"
+#include "install-layout.h"
 #include "log.h"
 #include "qt-ustring.h"
 
@@ -18,26 +21,31 @@
 
 namespace {
 
-const char kResourcesFolder[] = "/Contents/Resources";
-const char kVersionFileName[] = "INFO";
-const char kVersionGroup[] = "Version";
-const char kPackageArchive[] = "/package/drovia.vpk";
-const char kAgedAppFolder[] = "/app";
-const char kBackupSuffix[] = "_tmp";
-const int kBackupAttempts = 10;
 const int kBackupNumberSize = 8;
+
+// A FIFO or a device in the version file's place would block the settings
+// reader or never end.
+bool IsRegularFile(const ustring& path)
+{
+    struct stat st;
+    return stat(path.c_str_utf8(), &st) == 0 && S_ISREG(st.st_mode);
+}
 
 // Fills only the fields whose key the file has, so a missing or unreadable
 // file leaves every field as it was. The file is never written back.
 void ReadVersionFile(const ustring& path, ustring& major, ustring& minor, ustring& build,
                      ustring& icon_overlay)
 {
+    if (!IsRegularFile(path)) {
+        LOG_MSG(NOTE, "'%s' is not a regular file, not read", path.c_str_utf8());
+        return;
+    }
     QSettings settings(ToQString(path), QSettings::IniFormat);
-    settings.beginGroup(QLatin1String(kVersionGroup));
+    settings.beginGroup(QLatin1String(layout::kVersionGroup));
     const std::pair<const char*, ustring*> keys[] = {
         {"major_version", &major},
         {"minor_version", &minor},
-        {"build_version", &build},
+        {layout::kBuildKey, &build},
         {"icon_overlay_version", &icon_overlay},
     };
     for (const auto& [key, field] : keys) {
@@ -49,7 +57,7 @@ void ReadVersionFile(const ustring& path, ustring& major, ustring& minor, ustrin
 // Index 0 has no number, so the first backup of Drovia.app is Drovia.app_tmp.
 ustring GetAppBackupDir(const ustring& app, int n)
 {
-    const ustring dir = app + kBackupSuffix;
+    const ustring dir = app + layout::kBackupSuffix;
     if (n == 0)
         return dir;
     char number[kBackupNumberSize];
@@ -64,7 +72,7 @@ ustring GetAppBackupDir(const ustring& app, int n)
 // index used and sets backup, or -1 when every name was refused.
 int MoveAppAside(const ustring& app, ustring& backup)
 {
-    for (int index = 0; index < kBackupAttempts; ++index) {
+    for (int index = 0; index < layout::kBackupNames; ++index) {
         backup = GetAppBackupDir(app, index);
         if (FSRename(app, backup, false) == 0)
             return index;
@@ -82,6 +90,22 @@ void RemoveBackups(const ustring& app, int last_index)
 {
     for (int index = 0; index <= last_index; ++index)
         FSRemove(GetAppBackupDir(app, index), false);
+}
+
+// Backups that interrupted runs left behind go once a complete installation
+// is in place: its version file is the package's last entry. Until then one
+// of them may hold the user's last working client.
+void RemoveLeftoverBackups(const ustring& app, const ustring& version_file)
+{
+    if (!IsFileExist(version_file, false))
+        return;
+    for (int index = 0; index < layout::kBackupNames; ++index) {
+        const ustring backup = GetAppBackupDir(app, index);
+        if (IsFileExist(backup, false)) {
+            LOG_MSG(INFO, "removing leftover backup %s", backup.c_str_utf8());
+            FSRemove(backup, false);
+        }
+    }
 }
 
 }  // namespace
@@ -105,22 +129,22 @@ ustring Service::GetRootDroviaInstallPath()
 
 ustring Service::GetRootDroviaResourceInstallPath()
 {
-    return GetRootDroviaInstallPath() + kResourcesFolder;
+    return GetRootDroviaInstallPath() + "/" + layout::kResourcesFolder;
 }
 
 ustring Service::GetUserDroviaInstallPath()
 {
-    return GetUserInstallPath() + "/" + ".Drovia";
+    return GetUserInstallPath() + "/" + layout::kUserFolder;
 }
 
 ustring Service::GetUserDroviaAppInstallPath()
 {
-    return GetUserDroviaInstallPath() + "/" + "Drovia.app";
+    return GetUserDroviaInstallPath() + "/" + layout::kBundleName;
 }
 
 void Service::LoadTargetVersion()
 {
-    const ustring path = GetRootDroviaResourceInstallPath() + "/" + kVersionFileName;
+    const ustring path = GetRootDroviaResourceInstallPath() + "/" + layout::kVersionFileName;
     ReadVersionFile(path, target_major_version, target_minor_version, target_build_version,
                     target_icon_overlay_version);
     LOG_MSG(INFO, "target_version = (%s, %s, %s, %s)",
@@ -129,8 +153,7 @@ void Service::LoadTargetVersion()
 
 void Service::LoadSourceVersion()
 {
-    const ustring path =
-        GetUserDroviaAppInstallPath() + kResourcesFolder + "/" + kVersionFileName;
+    const ustring path = PerUserVersionFile();
     if (!IsFileExist(path, false)) {
         LOG_MSG(INFO, "source does not exist");
         return;
@@ -143,7 +166,7 @@ void Service::LoadSourceVersion()
 
 int Service::ExtractPackage()
 {
-    const ustring archive = GetRootDroviaResourceInstallPath() + kPackageArchive;
+    const ustring archive = GetRootDroviaResourceInstallPath() + "/" + layout::kPackageArchive;
     const ustring destination = GetUserDroviaAppInstallPath();
     if (FSMKDir(destination, true) < 0) {
         LOG_MSG(ERROR, "failed to create folder: '%s'", destination.c_str_utf8());
@@ -187,7 +210,13 @@ int Service::PrepareUserEnv()
 
 void Service::RemoveAgedFolders()
 {
-    const ustring aged = GetUserDroviaInstallPath() + kAgedAppFolder;
+    const ustring aged = GetUserDroviaInstallPath() + "/" + layout::kAgedAppFolder;
     LOG_MSG(INFO, "removing aged app folder %s", aged.c_str_utf8());
     FSRemove(aged, false);
+    RemoveLeftoverBackups(GetUserDroviaAppInstallPath(), PerUserVersionFile());
+}
+
+ustring Service::PerUserVersionFile()
+{
+    return GetUserDroviaAppInstallPath() + "/" + layout::kResourcesFolder + "/" + layout::kVersionFileName;
 }

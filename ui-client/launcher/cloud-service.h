@@ -27,7 +27,8 @@ public:
     // backup or puts it back. 0 on success, -1 on failure.
     virtual int PrepareUserEnv();
 
-    // Deletes the folder that an older layout kept beside the bundle.
+    // Deletes the folder that an older layout kept beside the bundle, and
+    // the backups of interrupted runs once the installation is complete.
     void RemoveAgedFolders();
 
     // Locations derived from the home folder and the launcher's own
@@ -39,6 +40,8 @@ public:
     static ustring GetUserDroviaAppInstallPath();
 
 protected:
+    static ustring PerUserVersionFile();
+
     int timeout = 0;
     ustring user_app_path;
     ustring target_major_version;

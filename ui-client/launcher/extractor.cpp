@@ -3,12 +3,17 @@
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <sys/stat.h>
+
 #include <iostream>
 #include <memory>
+#include <string>
 
+#include "entry-guard.h"
 #include "log.h"
 #include "notify-adapter.h"
 #include "strtable.h"
+#include "utf8-names.h"
 
 #define LOG_COMPONENT "extractor_debug"
 #define LOG_TAG "extractor"
@@ -67,17 +72,37 @@ ReadHandle OpenEntryWalk(const ustring& archive_path, const ustring& dest_path)
     return reader;
 }
 
-// Writes one entry below dest_path. The name is only prefixed: a leading "/"
-// still lands below dest_path, and ".." is left for the writer to refuse.
-int WriteEntry(archive* reader, archive* writer, archive_entry* entry, const ustring& dest_path)
+// Names and hard-link targets land below dest_path: they are only prefixed,
+// so a leading "/" still lands below it, and ".." is left for the writer to
+// refuse. Folders stay writable by their owner, so that a later upgrade can
+// always delete or restore them.
+void PlaceBelow(archive_entry* entry, const ustring& dest_path, const char* name)
+{
+    const ustring target = dest_path + "/" + name;
+    archive_entry_set_pathname(entry, target.c_str_utf8());
+    if (const char* hard_link_target = archive_entry_hardlink(entry)) {
+        const ustring placed = dest_path + "/" + hard_link_target;
+        archive_entry_set_hardlink(entry, placed.c_str_utf8());
+    }
+    if (archive_entry_filetype(entry) == AE_IFDIR)
+        archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
+}
+
+// Writes one entry below dest_path, unless the guard refuses it.
+int WriteEntry(archive* reader, archive* writer, archive_entry* entry, const ustring& dest_path,
+               EntryGuard& guard)
 {
     const char* name = archive_entry_pathname(entry);
     if (!name) {
         LOG_MSG_WITHOUT_NEWLINE(ERROR, "archive_entry_pathname failed");
         return -1;
     }
-    const ustring target = dest_path + "/" + name;
-    archive_entry_set_pathname(entry, target.c_str_utf8());
+    const std::string refusal = guard.Refusal(entry);
+    if (!refusal.empty()) {
+        LOG_MSG(ERROR, "refusing '%s': %s", name, refusal.c_str());
+        return -1;
+    }
+    PlaceBelow(entry, dest_path, name);
     if (archive_read_extract2(reader, entry, writer) != ARCHIVE_OK) {
         // A read that fails inside the copy leaves its message on the reader only.
         const char* reason = archive_error_string(writer) ? ErrorText(writer) : ErrorText(reader);
@@ -90,6 +115,7 @@ int WriteEntry(archive* reader, archive* writer, archive_entry* entry, const ust
 // Progress counts entries: each one is reported once its data is on disk.
 int ExtractEntries(archive* reader, archive* writer, const ustring& dest_path, int total)
 {
+    EntryGuard guard;
     for (int current = 1;; ++current) {
         archive_entry* entry = nullptr;
         const int status = archive_read_next_header(reader, &entry);
@@ -99,7 +125,7 @@ int ExtractEntries(archive* reader, archive* writer, const ustring& dest_path, i
             LOG_MSG(ERROR, "archive_read_next_header failed: '%s'", ErrorText(reader));
             return -1;
         }
-        if (WriteEntry(reader, writer, entry, dest_path) != 0)
+        if (WriteEntry(reader, writer, entry, dest_path, guard) != 0)
             return -1;
         Notify_Adapter::GetInstance()->UpdateProgress(total, current);
         if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
@@ -120,6 +146,7 @@ int Extractor::Extract()
     LOG_MSG(DEBUG, "decompress from '%s' to '%s'",
             archive_path.c_str_utf8(), dest_path.c_str_utf8());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingLabelId));
+    const Utf8Names utf8_names;
 
     // Refusing an empty archive here keeps the progress total at 1 or more.
     const int total = Count();
@@ -146,6 +173,7 @@ int Extractor::Extract()
 
 int Extractor::Count()
 {
+    const Utf8Names utf8_names;
     ReadHandle reader = OpenEntryWalk(archive_path, dest_path);
     if (!reader)
         return -1;
@@ -162,6 +190,7 @@ int Extractor::Count()
 
 int Extractor::List()
 {
+    const Utf8Names utf8_names;
     ReadHandle reader = OpenEntryWalk(archive_path, dest_path);
     if (!reader)
         return -1;

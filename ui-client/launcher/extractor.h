@@ -7,7 +7,9 @@ struct archive;
 
 // Unpacks an archive file into a folder, reporting progress to the dialog
 // through Notify_Adapter. Strict: any library warning is a failure, and
-// entries whose path climbs out with ".." are refused. Each call opens and
+// nothing is written outside the folder: entries whose path climbs out with
+// "..", special files and links that lead out are refused (EntryGuard).
+// Entry names are UTF-8 whatever the user's locale. Each call opens and
 // frees its own library handles.
 class Extractor {
 public:

@@ -8,6 +8,8 @@ endif()
 
 target_sources(launcher_core PRIVATE
     cloud-service.cpp
+    entry-guard.cpp
     extractor.cpp
     mac/mac-service.cpp
+    utf8-names.cpp
     ${CLIENT_PROCESS_SOURCE})
