@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include "install-layout.h"
+
 namespace {
 
 const int kWindowWidth = 320;
@@ -24,10 +26,10 @@ ClientWindow::ClientWindow(const QString& version_file, QWidget* parent) : QWidg
 QString ClientWindow::versionText(const QString& version_file)
 {
     QSettings info(version_file, QSettings::IniFormat);
-    info.beginGroup(QStringLiteral("Version"));
+    info.beginGroup(QLatin1String(layout::kVersionGroup));
     const QString unknown = QStringLiteral("?");
     return QStringLiteral("Drovia client %1.%2, build %3")
         .arg(info.value(QStringLiteral("major_version"), unknown).toString(),
              info.value(QStringLiteral("minor_version"), unknown).toString(),
-             info.value(QStringLiteral("build_version"), unknown).toString());
+             info.value(QLatin1String(layout::kBuildKey), unknown).toString());
 }

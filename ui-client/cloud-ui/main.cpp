@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 #include "client-window.h"
+#include "install-layout.h"
 #include "pid-file.h"
 #include "term-signal-watcher.h"
 
@@ -13,13 +14,14 @@ namespace {
 
 QString pidFilePath()
 {
-    return QDir::homePath() + QStringLiteral("/.Drovia/ui.pid");
+    return QDir::homePath() + "/" + layout::kUserFolder + "/" + layout::kPidFile;
 }
 
+// The executable sits in Contents/MacOS, two folders below the bundle.
 QString bundleVersionFile()
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../../Contents/Resources/INFO"));
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../../" + layout::kResourcesFolder + "/" +
+                           layout::kVersionFileName);
 }
 
 }  // namespace

@@ -4,7 +4,10 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
+
+#include "install-layout.h"
 
 namespace {
 
@@ -45,5 +48,19 @@ QString QtSingleApplication::instanceLockPath()
     prefix.truncate(kNamePrefixLength);
 
     const QString name = QStringLiteral("qtsingleapp-%1-%2.lock").arg(prefix, QString::fromLatin1(digest.toHex()));
-    return QDir(QDir::tempPath()).filePath(name);
+    return QDir(lockFolder()).filePath(name);
+}
+
+// A folder only its user can write: in the shared temporary folder another
+// user could plant a file of the lock's predictable name and keep every
+// launch from running.
+QString QtSingleApplication::lockFolder()
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!runtime.isEmpty() && QFileInfo(runtime).isDir())
+        return runtime;
+    // Without one, the launcher's own folder in the home folder.
+    const QString home = QDir::homePath() + "/" + layout::kUserFolder;
+    QDir().mkpath(home);
+    return home;
 }

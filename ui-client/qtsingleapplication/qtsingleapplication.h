@@ -6,8 +6,9 @@
 
 // An application object that knows whether another copy of the same
 // executable, run by the same user, is alive. The first copy holds a lock
-// file in the temporary folder for as long as it exists; a copy that crashed
-// or was killed leaves a stale lock that the next copy takes over.
+// file in the user's runtime folder (or ~/.Drovia) for as long as it exists;
+// a copy that crashed or was killed leaves a stale lock that the next copy
+// takes over.
 class QtSingleApplication : public QApplication {
     Q_OBJECT
 
@@ -19,6 +20,7 @@ public:
 
 private:
     static QString instanceLockPath();
+    static QString lockFolder();
 
     QLockFile instance_lock;
     bool other_instance_running;
