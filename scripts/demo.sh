@@ -4,7 +4,8 @@
 #   1. a first run installs the client into the demo home and starts it;
 #   2. a second run finds the same build and only starts the client;
 #   3. a run from a bundle that carries the next build stops the running
-#      client, upgrades the per-user copy and starts the new client.
+#      client, upgrades the per-user copy and starts the new client;
+#   4. a run while that client runs leaves it alone and starts no second one.
 # DROVIA_BUILD_DIR picks another build folder (default: build).
 set -euo pipefail
 
@@ -135,6 +136,8 @@ run_launcher "Second run: same build, client not running"
 show_state
 bump_build
 run_launcher "Third run: the bundle carries the next build, the client still runs"
+show_state
+run_launcher "Fourth run: same build, the client runs"
 show_state
 echo
 echo "Launcher and client diagnostics: $DEMO/launcher.stderr"
