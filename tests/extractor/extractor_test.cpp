@@ -1,53 +1,123 @@
+// The extractor unpacks into a fresh folder of a scratch folder; whatever the
+// archive holds, nothing may appear in the scratch folder outside it.
 #include <gtest/gtest.h>
-#include <archive.h>
+
 #include <QDir>
+#include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include "extractor.h"
-#include "notify-adapter.h"
-#include "test-archive.h"
 
-// Each row unpacks into an empty folder and expects progress (total, 1)..(total, reports).
-TEST(ExtractorTest, UnpacksInOrderAndStopsAtTheFirstBadEntry)
+#include "extractor.h"
+#include "files.h"
+#include "notify-adapter.h"
+#include "packages.h"
+
+namespace {
+
+struct Unpacked {
+    int result = 0;
+    QList<QList<QVariant>> reports;  // (total, current) per entry
+    TreeSnapshot destination;
+    QStringList beside;  // what the scratch folder holds besides the destination and the archive
+};
+
+// bytes empty: no archive file at all.
+Unpacked Unpack(const std::string& bytes)
 {
-    const std::vector<TestEntry> four = {{"C", "", true}, {"C/1", "1"}, {"C/2", "2"}, {"C/4", "4"}};
-    const std::vector<TestEntry> three(four.begin(), four.end() - 1);
-    std::string damaged = MakeArchive(ARCHIVE_FORMAT_TAR_USTAR, ARCHIVE_FILTER_NONE, four);
+    QTemporaryDir scratch;
+    const QString destination = scratch.filePath("dest");
+    const QString archive = scratch.filePath("package.vpk");
+    EXPECT_TRUE(QDir().mkpath(destination) && (bytes.empty() || WriteBytes(archive, bytes)));
+    Extractor extractor;
+    extractor.dest_path = destination.toUtf8().constData();
+    extractor.archive_path = archive.toUtf8().constData();
+    QSignalSpy progress(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress);
+    Unpacked unpacked;
+    unpacked.result = extractor.Extract();
+    unpacked.reports = progress;
+    unpacked.destination = SnapshotOfFolder(destination);
+    unpacked.beside = QDir(scratch.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    unpacked.beside.removeAll("dest");
+    unpacked.beside.removeAll("package.vpk");
+    return unpacked;
+}
+
+TEST(Extractor, UnpacksEveryFormatReportingEachEntryUntilTheFirstBadOne)
+{
+    const std::vector<PackageEntry> three = {{"C", "", EntryKind::Folder, 0755}, {"C/1", "1"}, {"C/2", "2"}};
+    std::vector<PackageEntry> four = three;
+    four.push_back({"C/4", "4"});
+    std::string damaged = MakeArchive(four, ARCHIVE_FORMAT_TAR_USTAR);
     damaged[damaged.rfind("C/4")] ^= 0x20;  // the fourth header fails its checksum
     const struct {
-        std::string bytes;  // empty: no archive
-        int result, total, reports;
-        const char* kept = nullptr;  // the last entry unpacked
-        const char* gone = nullptr;  // the first entry never unpacked
+        const char* name;
+        std::string bytes;
+        int result;
+        int reports;  // (3, 1) up to (3, reports)
+        size_t entries;
     } rows[] = {
-        {MakeArchive(ARCHIVE_FORMAT_TAR_PAX_RESTRICTED, ARCHIVE_FILTER_GZIP, three), 0, 3, 3, "C/2"},
-        {MakeArchive(ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE, three), 0, 3, 3, "C/2"},
-        {MakeArchive(ARCHIVE_FORMAT_TAR_USTAR, ARCHIVE_FILTER_XZ, three), 0, 3, 3, "C/2"},
-        {MakeArchive(ARCHIVE_FORMAT_TAR_GNUTAR, ARCHIVE_FILTER_ZSTD, three), 0, 3, 3, "C/2"},
-        {damaged, -1, 3, 3, "C/2", "C/4"},
-        {MakeArchive(ARCHIVE_FORMAT_TAR_PAX_RESTRICTED, ARCHIVE_FILTER_NONE,
-                     {{"a", "a"}, {"/b", "b"}, {"../out", "o"}, {"after", "x"}}),
-         -1, 4, 2, "b", "../out"},
-        {MakeArchive(ARCHIVE_FORMAT_TAR_USTAR, ARCHIVE_FILTER_NONE, {}), -1, 0, 0},
-        {"", -1, 0, 0},
+        {"zip", MakeArchive(three), 0, 3, 3},
+        {"tar.gz", MakeArchive(three, ARCHIVE_FORMAT_TAR_PAX_RESTRICTED, ARCHIVE_FILTER_GZIP), 0, 3, 3},
+        {"tar.xz", MakeArchive(three, ARCHIVE_FORMAT_TAR_USTAR, ARCHIVE_FILTER_XZ), 0, 3, 3},
+        {"tar.zst", MakeArchive(three, ARCHIVE_FORMAT_TAR_GNUTAR, ARCHIVE_FILTER_ZSTD), 0, 3, 3},
+        {"bad fourth header", damaged, -1, 3, 3},
+        {"no entries", MakeArchive({}, ARCHIVE_FORMAT_TAR_USTAR), -1, 0, 0},
+        {"no archive", "", -1, 0, 0},
     };
     for (const auto& row : rows) {
-        if (row.result == 0 && row.bytes.empty())
-            continue;  // this libarchive build cannot write the pair
-        SCOPED_TRACE(&row - rows);
-        QTemporaryDir work;
-        const QString dest = work.path() + "/dest", archive = work.path() + "/package.vpk";
-        ASSERT_TRUE(QDir().mkpath(dest) && (row.bytes.empty() || WriteBytes(archive, row.bytes)));
-        Extractor extractor;
-        extractor.dest_path = dest.toUtf8().constData();
-        extractor.archive_path = archive.toUtf8().constData();
-        QSignalSpy spy(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress);
-        EXPECT_EQ(extractor.Extract(), row.result);
-        ASSERT_EQ(spy.count(), row.reports);
+        SCOPED_TRACE(row.name);
+        const Unpacked unpacked = Unpack(row.bytes);
+        EXPECT_EQ(unpacked.result, row.result);
+        ASSERT_EQ(unpacked.reports.size(), row.reports);
         for (int at = 0; at < row.reports; ++at)
-            EXPECT_EQ(spy.at(at), (QList<QVariant>{row.total, at + 1}));
-        EXPECT_EQ(ReadBytes(dest + "/" + row.kept).size(), row.kept ? 1u : 0u);
-        EXPECT_TRUE(!row.gone || !QFile::exists(dest + "/" + row.gone));
-        EXPECT_EQ(QDir(dest).isEmpty(), !row.kept);
+            EXPECT_EQ(unpacked.reports[at], (QList<QVariant>{3, at + 1}));
+        EXPECT_EQ(unpacked.destination.size(), row.entries);
     }
 }
+
+TEST(Extractor, WritesNothingOutsideTheDestination)
+{
+    const PackageEntry file = {"f", "data"};
+    const auto link = [](const char* name, const char* target) {
+        return PackageEntry{name, target, EntryKind::SymbolicLink, 0777};
+    };
+    const auto hard_link = [](const char* name, const char* target) {
+        return PackageEntry{name, target, EntryKind::HardLink};
+    };
+    const struct {
+        const char* name;
+        std::vector<PackageEntry> entries;
+        int result;
+        TreeSnapshot unpacked;
+        int format = ARCHIVE_FORMAT_TAR_PAX_RESTRICTED;  // zip holds no hard links
+    } rows[] = {
+        {"'..' in a name", {file, {"a/../../out", "x"}, {"after", "x"}}, -1, {{"f", "f:data"}}},
+        {"absolute name", {{"/abs", "x"}}, 0, {{"abs", "f:x"}}},
+        {"FIFO", {file, {"fifo", "", EntryKind::Fifo}}, -1, {{"f", "f:data"}}},
+        {"link climbing out", {link("h", "../.."), {"h/planted", "x"}}, -1, {}},
+        {"absolute link", {link("etc", "/etc")}, -1, {}},
+        {"chain of links", {link("s", "."), link("t", "s/.."), {"t/planted", "x"}}, -1,
+         {{"s", "l:."}, {"t", "l:s/.."}}},
+        {"hard link", {file, hard_link("g", "f")}, 0, {{"f", "f:data"}, {"g", "f:data"}}},
+        {"hard link to an absolute name", {file, hard_link("g", "/f")}, 0, {{"f", "f:data"}, {"g", "f:data"}}},
+        {"hard link climbing out", {hard_link("g", "../../f")}, -1, {}},
+        {"hard link behind a link", {{"d/f", "x"}, link("s", "d"), hard_link("g", "s/f")}, -1,
+         {{"d", "d"}, {"d/f", "f:x"}, {"s", "l:d"}}},
+        {"framework links", {{"V/A/lib", "x"}, link("V/Current", "A"), link("lib", "V/Current/lib")}, 0,
+         {{"V", "d"}, {"V/A", "d"}, {"V/A/lib", "f:x"}, {"V/Current", "l:A"}, {"lib", "l:V/Current/lib"}}},
+        {"read-only folder", {{"ro", "", EntryKind::Folder, 0555}, {"ro/f", "x", EntryKind::File, 0444}}, 0,
+         {{"ro", "d"}, {"ro/f", "f:x"}}},
+        {"non-ASCII name in the C locale", {{"caf\xc3\xa9", "x"}}, 0, {{"caf\xc3\xa9", "f:x"}}, ARCHIVE_FORMAT_ZIP},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::string bytes = MakeArchive(row.entries, row.format);
+        ASSERT_FALSE(bytes.empty());
+        const Unpacked unpacked = Unpack(bytes);
+        EXPECT_EQ(unpacked.result, row.result);
+        EXPECT_EQ(unpacked.destination, row.unpacked);
+        EXPECT_EQ(unpacked.beside, QStringList());
+    }
+}
+
+}  // namespace

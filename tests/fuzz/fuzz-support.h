@@ -1,25 +1,41 @@
-#pragma once
+#ifndef FUZZ_SUPPORT_H
+#define FUZZ_SUPPORT_H
+
 #include <stdlib.h>
+
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#define FUZZ_CHECK(c) ((c) ? (void)0 : (std::fprintf(stderr, "%s:%d: failed: %s\n", __FILE__, __LINE__, #c), std::abort()))
-// A private folder for the run, removed at exit; never freed, as the exit handler needs its name.
+
+// A failed property aborts, which libFuzzer reports with the input.
+#define FUZZ_CHECK(condition)                                                             \
+    do {                                                                                  \
+        if (!(condition)) {                                                               \
+            std::fprintf(stderr, "%s:%d: failed: %s\n", __FILE__, __LINE__, #condition); \
+            std::abort();                                                                 \
+        }                                                                                 \
+    } while (false)
+
+// A private folder for the run, removed at exit. Never freed: the exit
+// handler still needs its name.
 inline const std::string& ScratchFolder()
 {
     static const std::string* folder = [] {
         auto* name = new std::string(std::filesystem::temp_directory_path().string() + "/drovia-fuzz-XXXXXX");
-        FUZZ_CHECK(mkdtemp(&(*name)[0]) && !std::atexit([] { std::filesystem::remove_all(ScratchFolder()); }));
+        FUZZ_CHECK(mkdtemp(&(*name)[0]) != nullptr);
+        std::atexit([] { std::filesystem::remove_all(ScratchFolder()); });
         return name;
     }();
     return *folder;
 }
 
-inline std::string WriteScratch(const char* name, const void* data, size_t size)
+inline std::string WriteScratch(const char* name, const std::string& bytes)
 {
     const std::string path = ScratchFolder() + "/" + name;
-    FUZZ_CHECK(std::ofstream(path, std::ios::binary).write(static_cast<const char*>(data), std::streamsize(size)).flush());
+    std::ofstream(path, std::ios::binary) << bytes;
     return path;
 }
+
+#endif  // FUZZ_SUPPORT_H

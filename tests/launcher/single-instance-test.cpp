@@ -1,23 +1,49 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QCryptographicHash>
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
-// The guard's id comes from the executable's path, so each "bundle" gets its own copy of the probe.
-TEST(SingleInstance, OnlyTheSamePathSeesALiveHolder)
+namespace {
+
+const int kTimeoutMs = 10000;
+
+// The guard's id comes from the executable's path, so each "bundle" holds its
+// own copy of the probe. Its lock lives where only its user can write: a file
+// planted in the shared temporary folder under the name a lock there would
+// have must not stop it.
+TEST(SingleInstance, OnlyTheSameBundlePathSeesALiveHolder)
 {
     QTemporaryDir sandbox;
     for (const QString folder : {"a", "b"})
-        ASSERT_TRUE(QDir(sandbox.path()).mkdir(folder) && QFile::copy(SINGLE_INSTANCE_PROBE, sandbox.filePath(folder + "/probe")));
-    QProcess holder, a, b, after;
-    const auto start = [&](QProcess& probe, const QString& folder, const QStringList& args = {}) {
-        probe.setEnvironment(QProcess::systemEnvironment() << "TMPDIR=" + sandbox.path());
-        probe.start(sandbox.filePath(folder + "/probe"), args);
-        return probe.waitForReadyRead(10000) ? probe.readLine().trimmed() : QByteArray();
+        ASSERT_TRUE(QDir(sandbox.path()).mkdir(folder) &&
+                    QFile::copy(SINGLE_INSTANCE_PROBE, sandbox.filePath(folder + "/probe")));
+    const QString planted_name =
+        QCryptographicHash::hash((sandbox.filePath("a/probe") + "\n" + QString::number(getuid())).toUtf8(),
+                                 QCryptographicHash::Sha1).toHex();
+    ASSERT_TRUE(QFile(sandbox.filePath("qtsingleapp-probe-" + planted_name + ".lock")).open(QIODevice::WriteOnly));
+
+    const auto start = [&](QProcess& probe, const QString& folder, const QStringList& arguments = {}) {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("HOME", sandbox.path());
+        env.insert("TMPDIR", sandbox.path());
+        env.remove("XDG_RUNTIME_DIR");
+        probe.setProcessEnvironment(env);
+        probe.start(sandbox.filePath(folder + "/probe"), arguments);
+        return probe.waitForReadyRead(kTimeoutMs) ? probe.readLine().trimmed() : QByteArray();
     };
+    QProcess holder;
+    QProcess same_path;
+    QProcess other_path;
+    QProcess after_the_holder;
     ASSERT_EQ(start(holder, "a", {"hold"}), "running=0");
-    EXPECT_EQ(start(a, "a"), "running=1");
-    EXPECT_EQ(start(b, "b"), "running=0");
-    EXPECT_TRUE((holder.kill(), holder.waitForFinished(10000)));
-    EXPECT_EQ(start(after, "a"), "running=0");
+    EXPECT_EQ(start(same_path, "a"), "running=1");
+    EXPECT_EQ(start(other_path, "b"), "running=0");
+    holder.kill();
+    EXPECT_TRUE(holder.waitForFinished(kTimeoutMs));
+    EXPECT_EQ(start(after_the_holder, "a"), "running=0");
 }
+
+}  // namespace

@@ -28,7 +28,8 @@ std::string kept(const QString& text)
         found.append(matches.next().captured());
     for (const QString& brand : kBrandNames)
         found.append(text.contains(brand) ? brand : "");
-    return (found.sort(), found.join('|').toStdString());
+    found.sort();
+    return found.join('|').toStdString();
 }
 
 using CatalogueTest = ::testing::TestWithParam<QString>;

@@ -1,159 +1,293 @@
-#include <archive.h>
-#include <signal.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <QElapsedTimer>
-#include <QThread>
-#include <cerrno>
-#include <cstring>
-#include <deque>
-#include "service-fixture.h"
+// The upgrade service in process: the decision, the installation with its
+// backups, and stopping the client.
+#include <gtest/gtest.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
-extern char** environ;
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <deque>
+
+#include "files.h"
+#include "install-layout.h"
+#include "log-capture.h"
+#include "mac/mac-service.h"
+#include "packages.h"
 
 namespace {
+
+const pid_t kClientPid = 4242;
+const pid_t kEditorPid = 4343;
+
+std::string VersionFile(const std::string& lines)
+{
+    return "[Version]\n" + lines + "\n";
+}
+
+std::vector<PackageEntry> ClientBundle(int build, std::vector<PackageEntry> extra = {})
+{
+    extra.insert(extra.begin(), {layout::kClientExecutable, "client", EntryKind::File, 0755});
+    extra.push_back({"Contents/Resources/INFO", VersionFile("build_version=" + std::to_string(build))});
+    return extra;
+}
+
+// Each test has a home folder of its own, named in non-ASCII. The bundle is
+// the folder the test executable sits in; tests that write its files lock it,
+// as test processes run side by side.
+class ServiceTest : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(home.isValid() && qputenv("HOME", home.path().toUtf8())); }
+    void TearDown() override { close(bundle_lock); }
+
+    void UseBundle()
+    {
+        bundle_lock = open(qPrintable(resources + "/../../.test-lock"), O_CREAT | O_RDWR | O_CLOEXEC, 0644);
+        ASSERT_TRUE(bundle_lock >= 0 && flock(bundle_lock, LOCK_EX) == 0);
+        QDir(resources).removeRecursively();
+    }
+    void Ship(int build, const std::string& package)
+    {
+        ASSERT_TRUE(WriteBytes(resources + "/INFO", VersionFile("build_version=" + std::to_string(build))));
+        ASSERT_TRUE(WriteBytes(resources + "/" + layout::kPackageArchive, package));
+    }
+    void InstallForUser(int build, const std::string& marker = "old")
+    {
+        ASSERT_TRUE(WriteEntries(user_app, ClientBundle(build, {{"marker", marker}})));
+    }
+
+    QTemporaryDir home{QDir::tempPath() + QString::fromUtf8("/J\xC3\xB6rg \xC3\x9C-XXXXXX")};
+    const QString user_folder = home.path() + "/.Drovia";
+    const QString user_app = user_folder + "/Drovia.app";
+    const QString resources = QCoreApplication::applicationDirPath() + "/../Resources";
+    int bundle_lock = -1;
+};
 
 TEST_F(ServiceTest, UpgradeDecisionFollowsBuildNumbersAndClientPresence)
 {
     UseBundle();
-    // Version lines of the user's and the bundle's version files; null: no file.
-    const struct { const char *source, *target; bool client, upgrade; } rows[] = {
-        {"build_version=120", "build_version=121", true, true},
-        {"build_version=121", "build_version=121", true, false},
-        {"build_version=122", "build_version=121", true, false},
-        {"build_version=122", "build_version=121", false, true},
-        {nullptr, "build_version=121", false, true},
-        {"build_version=12a", "build_version=12", true, false},
-        {"build_version=abc", "build_version=1", true, true},
-        {"build_version=5", nullptr, true, false},
-        {"major_version=3\nbuild_version=9", "major_version=4\nbuild_version=9", true, false},
-        {"build_version=9", "[Other]\nbuild_version=99", true, false},
+    // The lines of the user's and the bundle's version files (null: no file).
+    const struct {
+        const char *name, *source, *target;
+        bool client, upgrade;
+    } rows[] = {
+        {"newer bundle", "build_version=120", "build_version=121", true, true},
+        {"same build", "build_version=121", "build_version=121", true, false},
+        {"older bundle", "build_version=122", "build_version=121", true, false},
+        {"older bundle, client missing", "build_version=122", "build_version=121", false, true},
+        {"nothing installed", nullptr, "build_version=121", false, true},
+        {"digits up to a letter", "build_version=12a", "build_version=12", true, false},
+        {"no digits", "build_version=abc", "build_version=1", true, true},
+        {"no bundle version", "build_version=5", nullptr, true, false},
+        {"only the build decides", "major_version=3\nbuild_version=9", "major_version=4\nbuild_version=9", true,
+         false},
+        {"another group", "build_version=9", "[Other]\nbuild_version=99", true, false},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
-        QDir(Home() + "/.Drovia").removeRecursively();
-        QFile::remove(BundleResources() + "/INFO");
-        if (row.target)
-            WriteBundleVersion(VersionFile(row.target));
-        ASSERT_TRUE(!row.source || WriteBytes(UserApp() + "/Contents/Resources/INFO",
-                                              VersionFile(row.source)));
-        ASSERT_TRUE(!row.client || WriteBytes(UserClient(), "client"));
+        SCOPED_TRACE(row.name);
+        QDir(user_folder).removeRecursively();
+        QFile::remove(resources + "/INFO");
+        ASSERT_TRUE(!row.target || WriteBytes(resources + "/INFO", VersionFile(row.target)));
+        ASSERT_TRUE(!row.source || WriteBytes(user_app + "/Contents/Resources/INFO", VersionFile(row.source)));
+        ASSERT_TRUE(!row.client || WriteBytes(user_app + "/" + layout::kClientExecutable, "client"));
         MacService service;
         service.PreUpgrade();
         EXPECT_EQ(service.IsNeedUpgrade(), row.upgrade);
     }
+    EXPECT_EQ(MacService().LaunchPerUserBin(), -1) << "the client cannot run";
 }
 
-TEST_F(ServiceTest, InstallationBacksUpCleansUpAndRollsBack)
+TEST_F(ServiceTest, InstallationBacksUpThenCleansUpOrRollsBack)
 {
     UseBundle();
-    WriteBundleVersion(VersionFile("build_version=200"));
-    const TestEntry client = {"Contents/MacOS/cloud-ui", "new client"};
-    const std::string good = MakeArchive(ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE, {client});
-    const std::string bad = MakeArchive(ARCHIVE_FORMAT_ZIP, ARCHIVE_FILTER_NONE,
-                                        {client, {"../refused", "out"}});  // fails after the client
-    const auto backup = [&](char i) { return UserApp() + "_tmp" + (i > '0' ? QString(i) : ""); };
-    // An old installation, the backup indices that earlier runs left, and what is left after.
-    const struct { bool old; const char* occupied; const std::string& package; int result;
-                   const char *client, *left; } rows[] = {
-        {false, "0", good, 0, "new client", ""},
-        {true, "02", good, 0, "new client", "2"},
-        {true, "0123456789", good, -1, "old client", "0123456789"},
-        {true, "", bad, -1, "old client", ""},
-        {false, "", bad, -1, "new client", ""},
+    const std::string good = MakeArchive(ClientBundle(5, {{"marker", "new"}}));
+    // Fails after the marker, before the version file.
+    const std::string bad = MakeArchive(ClientBundle(5, {{"marker", "new"}, {"../refused", "out"}}));
+    const auto backup = [this](char index) { return user_app + "_tmp" + (index == '0' ? "" : QString(index)); };
+    // Whether build 4 is installed, the backup names earlier runs left (by index), and the marker
+    // of the installation and the backup names left once the run is over.
+    const struct {
+        const char* name;
+        bool old;
+        const char* occupied;
+        const std::string& package;
+        int result;
+        const char *marker, *left;
+    } rows[] = {
+        {"fresh install", false, "0", good, 0, "new", ""},
+        {"first name taken", true, "02", good, 0, "new", ""},
+        {"only the tenth name free", true, "012345678", good, 0, "new", ""},
+        {"every name taken", true, "0123456789", good, -1, "old", ""},
+        {"rolled back", true, "", bad, -1, "old", ""},
+        {"nothing to roll back to", false, "0", bad, -1, "new", "0"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
-        QDir(Home() + "/.Drovia").removeRecursively();
-        WritePackage(row.package);
-        ASSERT_TRUE(!row.old || (WriteBytes(UserClient(), "old client") &&
-                                 WriteBytes(UserApp() + "/marker", "old")));
-        for (const char* index = row.occupied; *index; ++index)
+        SCOPED_TRACE(row.name);
+        QDir(user_folder).removeRecursively();
+        Ship(5, row.package);
+        if (row.old)
+            InstallForUser(4);
+        for (const char* index = row.occupied; *index != '\0'; ++index)
             ASSERT_TRUE(WriteBytes(backup(*index) + "/marker", "earlier"));
-        EXPECT_EQ(MacService().PrepareUserEnv(), row.result);
-        EXPECT_EQ(ReadBytes(UserClient()), row.client);
-        EXPECT_EQ(QFile::exists(UserApp() + "/marker"), row.old && row.result != 0);
+
+        MacService service;
+        EXPECT_EQ(service.PrepareUserEnv(), row.result);
+        service.RemoveAgedFolders();
+
+        EXPECT_EQ(ReadBytes(user_app + "/marker"), row.marker);
         std::string left;
         for (char index = '0'; index <= '9'; ++index)
-            left += QFile::exists(backup(index)) ? std::string(1, index) : "";
+            left += QFileInfo::exists(backup(index)) ? std::string(1, index) : "";
         EXPECT_EQ(left, row.left);
     }
 }
 
-// Sends nothing and does not wait: each call takes the next errno from errors
-// (0 for success); once they run out, the process seems alive.
-struct FakeSignalService : MacService {
-    std::vector<int> sent;  // -1 for a pid other than the file's
+// Run as root, the test could delete read-only folders anyway: the modes
+// themselves are checked.
+TEST_F(ServiceTest, ReadOnlyFoldersInPackagesStayWritableAndLeaveNoBackups)
+{
+    UseBundle();
+    InstallForUser(1);
+    std::vector<PackageEntry> entries;
+    for (int build = 2; build <= 13; ++build) {
+        entries = ClientBundle(build, {{"Frameworks", "", EntryKind::Folder, 0555}, {"Frameworks/lib", "", {}, 0444}});
+        Ship(build, MakeArchive(entries));
+        MacService service;
+        ASSERT_EQ(service.PrepareUserEnv(), 0) << "upgrade to " << build;
+        service.RemoveAgedFolders();
+    }
+    EXPECT_EQ(SnapshotOfFolder(user_app), SnapshotOfEntries(entries));
+    EXPECT_EQ(QDir(user_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"Drovia.app"});
+    EXPECT_TRUE(QFileInfo(user_app + "/Frameworks").permissions() & QFile::WriteOwner);
+}
+
+// The package is a zip, whose entries carry checksums: a damaged package
+// either fails or still unpacks to exactly what was packed.
+TEST_F(ServiceTest, DamagedPackagesLeaveTheOldInstallationAndNothingElse)
+{
+    UseBundle();
+    std::mt19937 random(2026);
+    const std::vector<PackageEntry> entries = ClientBundle(5, {{"data", RandomBytes(random, 20000)}});
+    const std::string package = MakeArchive(entries);
+    for (int variant = 0; variant < Repetitions(24, 800); ++variant) {
+        std::string bytes = package;
+        switch (variant % 3) {
+        case 0: bytes.resize(1 + random() % (bytes.size() - 1)); break;
+        case 1: bytes[random() % bytes.size()] ^= static_cast<char>(1 << (random() % 8)); break;
+        default: bytes.replace(0, 4, RandomBytes(random, 4));
+        }
+        QDir(user_folder).removeRecursively();
+        InstallForUser(4);
+        const TreeSnapshot old_installation = SnapshotOfFolder(user_app);
+        Ship(5, bytes);
+
+        MacService service;
+        const TreeSnapshot expected = service.PrepareUserEnv() == 0 ? SnapshotOfEntries(entries) : old_installation;
+        service.RemoveAgedFolders();
+
+        EXPECT_EQ(SnapshotOfFolder(user_app), expected) << "variant " << variant;
+        EXPECT_EQ(SnapshotOfFolder(home.path()).size(), expected.size() + 2) << "more in the home folder";
+    }
+}
+
+// Signals nothing and never waits. Each signal takes the next errno from
+// errors (0: it succeeds); once they run out, the process seems alive.
+// Process 4242 runs the per-user client, 4343 an editor, any other none.
+class FakeSignalService : public MacService {
+public:
+    explicit FakeSignalService(const QString& client) : client(QFileInfo(client).canonicalFilePath()) {}
+
+    std::vector<int> sent;  // the signal numbers, -1 for a signal to another pid than the client's
     int pauses = 0;
     std::deque<int> errors;
+
+protected:
     int SendSignal(pid_t pid, int signal_number) override
     {
-        sent.push_back(pid == 4242 ? signal_number : -1);
+        sent.push_back(pid == kClientPid ? signal_number : -1);
         errno = errors.empty() ? 0 : errors.front();
-        errors.erase(errors.begin(), errors.begin() + !errors.empty());
-        return errno ? -1 : 0;
+        if (!errors.empty())
+            errors.pop_front();
+        return errno == 0 ? 0 : -1;
     }
     void PauseSeconds(unsigned) override { ++pauses; }
+    ustring ExecutableOf(pid_t pid) override
+    {
+        errno = ENOENT;
+        return ustring(pid == kClientPid ? qPrintable(client) : pid == kEditorPid ? "/usr/bin/editor" : "");
+    }
+
+private:
+    QString client;
 };
 
-TEST_F(ServiceTest, StopSequenceSignalsOnlyAUsablePid)
+TEST_F(ServiceTest, StopSequenceSignalsOnlyTheClient)
 {
-    const struct { const char* pid_file; std::deque<int> errors; std::vector<int> sent; int pauses;
+    InstallForUser(4);
+    // The pid file (empty: none), the launcher's record of the client it started (null: none), the
+    // errors the signals meet, and the signals sent, the pauses and a line expected in the log.
+    const struct {
+        const char* name;
+        std::string pid_file;
+        const char* launch_record;
+        std::deque<int> errors;
+        std::vector<int> sent;
+        int pauses;
+        const char* line;
     } rows[] = {
-        {"pid=0\n", {}, {}, 0},
-        {"pid=-4242\n", {}, {}, 0},
-        {"pid=abc\n", {}, {}, 0},
-        {"pid=99999999999\n", {}, {}, 0},
-        {"pid = 4242 # client\n", {ESRCH}, {SIGTERM}, 0},
-        {"pid=4242\n", {0, 0, ESRCH}, {SIGTERM, 0, 0}, 1},
-        {"pid=4242\n", {EPERM, EPERM}, {SIGTERM, 0, 0, 0, 0, 0, SIGKILL}, 5},
+        {"pid 0", "pid=0\n", nullptr, {}, {}, 0, nullptr},
+        {"negative pid", "pid=-4242\n", nullptr, {}, {}, 0, nullptr},
+        {"number too large", "pid=99999999999\n", nullptr, {}, {}, 0, nullptr},
+        {"another program", "pid=4343\n", nullptr, {}, {}, 0, "4343 runs '/usr/bin/editor', not the Drovia client"},
+        {"gone on SIGTERM", "pid = 4242 # client\n", nullptr, {ESRCH}, {SIGTERM}, 0, nullptr},
+        {"zero padding", std::string("pid=4242\n\0\0\0", 12), nullptr, {0, 0, ESRCH}, {SIGTERM, 0, 0}, 1, nullptr},
+        {"refused", "pid=4242\n", nullptr, {EPERM, EPERM}, {SIGTERM, 0, 0, 0, 0, 0, SIGKILL}, 5,
+         "kill: Operation not permitted (1)"},
+        {"started, no pid file yet", "", "pid=4242\n", {0, ESRCH}, {SIGTERM, 0}, 0, "does not exist"},
+        {"pid file and record agree", "pid=4242\n", "pid=4242\n", {ESRCH}, {SIGTERM}, 0, nullptr},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.pid_file);
-        ASSERT_TRUE(WriteBytes(Home() + "/.Drovia/ui.pid", row.pid_file));
+        SCOPED_TRACE(row.name);
+        QFile::remove(user_folder + "/" + layout::kPidFile);
+        QFile::remove(user_folder + "/" + layout::kLaunchRecord);
+        ASSERT_TRUE(row.pid_file.empty() || WriteBytes(user_folder + "/" + layout::kPidFile, row.pid_file));
+        ASSERT_TRUE(!row.launch_record || WriteBytes(user_folder + "/" + layout::kLaunchRecord, row.launch_record));
         const LogCapture log;
-        FakeSignalService service;
+        FakeSignalService service(user_app + "/" + layout::kClientExecutable);
         service.errors = row.errors;
         service.StopService();
         EXPECT_EQ(service.sent, row.sent);
         EXPECT_EQ(service.pauses, row.pauses);
-        const std::string error = "): kill: " + std::string(strerror(EPERM)) + " (1)\n";
-        EXPECT_EQ(log.Text().find(error) != std::string::npos, row.pauses == 5);
+        EXPECT_TRUE(!row.line || log.Text().find(row.line) != std::string::npos) << log.Text();
     }
 }
 
-// A real client with SIGTERM blocked: only the real probes, sleeps and SIGKILL end it.
-TEST_F(ServiceTest, ClientThatIgnoresTermIsKilledAfterFiveSeconds)
+// A FIFO or a folder where a version or pid file belongs may block nothing, and nothing is signalled.
+TEST_F(ServiceTest, OddFilesWhereVersionAndPidFilesBelongAreNeverRead)
 {
-    sigset_t term, old;
-    sigemptyset(&term);
-    sigaddset(&term, SIGTERM);
-    pthread_sigmask(SIG_BLOCK, &term, &old);  // the client inherits the mask
-    pid_t client = -1;
-    char* argv[] = {const_cast<char*>("sleep"), const_cast<char*>("30"), nullptr};
-    const int spawned = posix_spawnp(&client, argv[0], nullptr, nullptr, argv, environ);
-    pthread_sigmask(SIG_SETMASK, &old, nullptr);
-    ASSERT_TRUE(spawned == 0 && client > 0);
-    EXPECT_TRUE(WriteBytes(Home() + "/.Drovia/ui.pid", "pid=" + std::to_string(client) + "\n"));
-    QElapsedTimer timer;
-    timer.start();
-    MacService().StopService();
-    EXPECT_GE(timer.elapsed(), 4900);
-    int status = 0;  // left alive, the client ends by itself after 30 s
-    EXPECT_TRUE(waitpid(client, &status, 0) == client && WIFSIGNALED(status) &&
-                WTERMSIG(status) == SIGKILL);
-}
+    UseBundle();
+    Ship(5, "");
+    InstallForUser(4);
+    const QString info = user_app + "/Contents/Resources/INFO";
+    ASSERT_TRUE(QFile::remove(info) && mkfifo(qPrintable(info), 0644) == 0);
+    MacService decider;
+    decider.PreUpgrade();
+    EXPECT_TRUE(decider.IsNeedUpgrade()) << "a FIFO holds no build";
 
-TEST_F(ServiceTest, LaunchStartsOnlyAnInstalledClient)
-{
-    EXPECT_EQ(MacService().LaunchPerUserBin(), -1);
-    const QString started = Home() + "/client-started";
-    ASSERT_TRUE(WriteBytes(UserClient(), "#!/bin/sh\n: > \"" + started.toStdString() + "\"\n"));
-    ASSERT_TRUE(QFile::setPermissions(UserClient(), QFile::ReadOwner | QFile::ExeOwner));
-    EXPECT_EQ(MacService().LaunchPerUserBin(), 0);
-    for (int tries = 0; tries < 100 && !QFile::exists(started); ++tries)
-        QThread::msleep(50);
-    EXPECT_TRUE(QFile::exists(started));
+    const QString pid_file = user_folder + "/" + layout::kPidFile;
+    for (const bool fifo : {true, false}) {
+        ASSERT_TRUE(fifo ? mkfifo(qPrintable(pid_file), 0644) == 0 : QFile::remove(pid_file) && QDir().mkpath(pid_file));
+        const LogCapture log;
+        FakeSignalService service(user_app + "/" + layout::kClientExecutable);
+        service.StopService();
+        EXPECT_TRUE(service.sent.empty());
+        EXPECT_NE(log.Text().find("Failed to read pid file"), std::string::npos) << log.Text();
+    }
 }
 
 }  // namespace

@@ -46,10 +46,11 @@ bool StaysInside(const std::string& name, const char* target)
     return true;
 }
 
+// A hard link is a name for a file of the archive; its entry carries no type.
 bool IsSpecialFile(archive_entry* entry)
 {
     const mode_t type = archive_entry_filetype(entry);
-    return type != AE_IFREG && type != AE_IFDIR && type != AE_IFLNK;
+    return archive_entry_hardlink(entry) == nullptr && type != AE_IFREG && type != AE_IFDIR && type != AE_IFLNK;
 }
 
 }  // namespace

@@ -1,0 +1,75 @@
+// The progress dialog on an X server of the test's own while the old client
+// stops: on screen, in the user's language from its first text on, and alone:
+// a second launcher started meanwhile leaves at once.
+#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QThread>
+
+#include "files.h"
+#include "sandbox.h"
+
+namespace {
+
+using DialogUnderX = LauncherSandbox;
+
+// "0x400007 "Velmora Drovia": ("launcher" "launcher")  400x97+0+0  +0+0" gives 0x400007.
+QString DialogWindow(const QString& display)
+{
+    static const QRegularExpression dialog(R"((0x[0-9a-f]+) "Velmora Drovia": \("launcher" [^)]*\)\s+400x\d+)");
+    QProcess xwininfo;
+    xwininfo.start("xwininfo", {"-display", display, "-root", "-tree"});
+    xwininfo.waitForFinished();
+    return dialog.match(QString::fromUtf8(xwininfo.readAllStandardOutput())).captured(1);
+}
+
+TEST_F(DialogUnderX, ShowsInTheUsersLanguageWhileTheOldClientStops)
+{
+    for (const char* tool : {"Xvfb", "xwininfo", "import"}) {
+        if (QStandardPaths::findExecutable(tool).isEmpty())
+            GTEST_SKIP() << tool << " is not installed";
+    }
+    QProcess xvfb;  // on whatever display number is free
+    xvfb.start("Xvfb", {"-displayfd", "1", "-nolisten", "tcp", "-screen", "0", "800x600x24"});
+    ASSERT_TRUE(xvfb.waitForReadyRead());
+    const QString display = ":" + QString::fromLatin1(xvfb.readLine().trimmed());
+    std::string pixels[2];
+    const char* const locales[] = {"C", "de_DE.UTF-8"};
+    for (int run = 0; run < 2; ++run) {
+        SCOPED_TRACE(locales[run]);
+        MoveToNewHome(QString("home-") + locales[run]);
+        InstallForUser(ClientBundle(4));
+        Ship(5);
+        StartClient("slow-exit");
+        QProcessEnvironment env = Environment();
+        env.insert("QT_QPA_PLATFORM", "xcb");
+        env.insert("DISPLAY", display);
+        env.insert("LC_ALL", locales[run]);
+        QProcess launcher;
+        StartLauncher(launcher, env);
+
+        QElapsedTimer timer;
+        timer.start();
+        QString window;
+        while ((window = DialogWindow(display)).isEmpty() && timer.elapsed() < 5000)
+            QThread::msleep(20);
+        ASSERT_FALSE(window.isEmpty()) << "no dialog on screen";
+        const QString capture = QString(E2E_ARTIFACT_DIR "/upgrade-dialog-%1").arg(locales[run]);
+        EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", window, capture + ".png"}), 0);
+        EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", window, "rgb:" + capture}), 0);
+        pixels[run] = ReadBytes(capture);
+        EXPECT_EQ(RunLauncher(env).exit_code, 0) << "a second launcher";
+
+        ASSERT_TRUE(launcher.waitForFinished(10000));
+        EXPECT_EQ(launcher.exitCode(), 0);
+        EXPECT_EQ(InstalledBuild(), "5");
+        EXPECT_EQ(RunningBuilds(), QStringList{"5"});
+        EXPECT_EQ(LogMessages().count("main: app has already launched, return"), 1);
+    }
+    xvfb.terminate();
+    xvfb.waitForFinished();
+    ASSERT_FALSE(pixels[0].empty());
+    EXPECT_NE(pixels[0], pixels[1]) << "the German dialog shows the English text";
+}
+
+}  // namespace

@@ -1,0 +1,19 @@
+#ifndef TEST_FILES_H
+#define TEST_FILES_H
+
+#include <QString>
+
+#include <random>
+#include <string>
+
+// Writes bytes as they are, creating the parent folders.
+bool WriteBytes(const QString& path, const std::string& bytes);
+// The file's bytes, empty when it cannot be read.
+std::string ReadBytes(const QString& path);
+// size bytes of every value, the same for the same generator state.
+std::string RandomBytes(std::mt19937& random, size_t size);
+// How often a repeated check runs: quick in the default run, soak when
+// DROVIA_SOAK is set (scripts/soak.sh).
+int Repetitions(int quick, int soak);
+
+#endif  // TEST_FILES_H

@@ -1,0 +1,69 @@
+// main() of the end-to-end tests. Where the kernel allows it (as root), each
+// test runs in PID and mount namespaces of its own: the namespace's first
+// process only reaps, the test runs in its child, and when the test ends the
+// kernel ends whatever the namespace still holds. Elsewhere the tests that
+// need the namespace skip.
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+
+#include "own-namespace.h"
+
+namespace {
+
+bool own_namespace = false;
+
+int StatusOf(pid_t child)
+{
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 1;
+}
+
+// Returns in the process that runs the test; the others exit with its status.
+void EnterOwnNamespace()
+{
+    if (unshare(CLONE_NEWPID | CLONE_NEWNS) != 0)
+        return;
+    const pid_t first = fork();
+    if (first != 0)
+        exit(first < 0 ? 1 : StatusOf(first));
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test killed for its time-out takes the namespace along
+    const bool own_proc = mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                          mount("proc", "/proc", "proc", MS_NOSUID | MS_NODEV | MS_NOEXEC, nullptr) == 0;
+    const pid_t test = own_proc ? fork() : -1;
+    if (test < 0)
+        exit(1);
+    if (test > 0) {
+        // Reaps orphans, such as the clients the launcher starts, until the test ends.
+        pid_t ended;
+        int status = 0;
+        while ((ended = wait(&status)) != test && (ended > 0 || errno == EINTR)) {
+        }
+        exit(ended == test && WIFEXITED(status) ? WEXITSTATUS(status) : 1);
+    }
+    own_namespace = true;
+}
+
+}  // namespace
+
+bool InOwnPidNamespace()
+{
+    return own_namespace;
+}
+
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    if (!::testing::GTEST_FLAG(list_tests))
+        EnterOwnNamespace();
+    QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

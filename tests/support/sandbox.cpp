@@ -1,0 +1,206 @@
+#include "sandbox.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QThread>
+
+#include "files.h"
+#include "install-layout.h"
+#include "own-namespace.h"
+
+namespace {
+
+const int kTimeoutMs = 30000;
+const int kClientStartTimeoutMs = 5000;
+const char kLauncher[] = "/Contents/MacOS/launcher";
+// "Zoë Zoë 用户 home", the second ë decomposed as some file systems store it.
+const char kHomeName[] = "Zo\xc3\xab Zoe\xcc\x88 \xe7\x94\xa8\xe6\x88\xb7 home";
+
+std::string VersionFile(int build)
+{
+    return "[Version]\nmajor_version=3\nminor_version=2\nbuild_version=" + std::to_string(build) + "\n";
+}
+
+bool CopyTree(const QString& from, const QString& to)
+{
+    return QDir().mkpath(to) && QProcess::execute("cp", {"-RT", from, to}) == 0;
+}
+
+QStringList StartLines(const QString& started_file)
+{
+    return QString::fromStdString(ReadBytes(started_file)).split('\n', Qt::SkipEmptyParts);
+}
+
+// Waits until ready() or the time is up.
+void WaitUntil(const std::function<bool()>& ready, int timeout_ms)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!ready() && timer.elapsed() < timeout_ms)
+        QThread::msleep(20);
+}
+
+}  // namespace
+
+void LauncherSandbox::SetUp()
+{
+    if (!InOwnPidNamespace())
+        GTEST_SKIP() << "needs a PID namespace of its own, which only root may make";
+    home = sandbox.filePath(QString::fromUtf8(kHomeName));
+    bundle = sandbox.filePath(layout::kBundleName);
+    ASSERT_TRUE(QDir().mkpath(home) && QDir().mkpath(sandbox.filePath("tmp")));
+    for (const char* part : {"/Contents/MacOS", "/Contents/Frameworks"})
+        ASSERT_TRUE(CopyTree(DROVIA_BUNDLE_DIR + QString(part), bundle + part));
+    ASSERT_TRUE(WriteBytes(bundle + "/" + layout::kLevelFile, "launcher_debug=7\nservice_debug=7\n"));
+}
+
+QString LauncherSandbox::UserPath(const QString& relative) const
+{
+    return home + "/" + layout::kUserFolder + "/" + relative;
+}
+
+std::vector<PackageEntry> LauncherSandbox::ClientBundle(int build, const std::vector<PackageEntry>& extra)
+{
+    std::vector<PackageEntry> entries = {{layout::kClientExecutable, ReadBytes(STAND_IN_CLIENT), {}, 0755}};
+    entries.insert(entries.end(), extra.begin(), extra.end());
+    entries.push_back({std::string(layout::kResourcesFolder) + "/" + layout::kVersionFileName, VersionFile(build)});
+    return entries;
+}
+
+void LauncherSandbox::Ship(int build, const std::string& package)
+{
+    const QString resources = bundle + "/" + layout::kResourcesFolder + "/";
+    ASSERT_TRUE(WriteBytes(resources + layout::kPackageArchive, package));
+    ASSERT_TRUE(WriteBytes(resources + layout::kVersionFileName, VersionFile(build)));
+}
+
+void LauncherSandbox::InstallForUser(const std::vector<PackageEntry>& entries)
+{
+    ASSERT_TRUE(WriteEntries(UserPath(layout::kBundleName), entries));
+}
+
+void LauncherSandbox::CopyBundleTo(const QString& copy) const
+{
+    ASSERT_TRUE(CopyTree(bundle, copy));
+}
+
+void LauncherSandbox::MoveToNewHome(const QString& name)
+{
+    home = sandbox.filePath(name);
+    ASSERT_TRUE(QDir().mkpath(home));
+}
+
+QProcessEnvironment LauncherSandbox::Environment() const
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("HOME", home);
+    env.insert("TMPDIR", sandbox.filePath("tmp"));
+    env.remove("XDG_RUNTIME_DIR");
+    env.insert("QT_QPA_PLATFORM", "offscreen");
+    env.insert("LC_ALL", "C");
+    env.insert("LAUNCHER", bundle + kLauncher);
+    return env;
+}
+
+// By a path relative to the sandbox, which "lib path" then shows.
+void LauncherSandbox::StartLauncher(QProcess& launcher, const QProcessEnvironment& env,
+                                    const QString& bundle_copy) const
+{
+    launcher.setProcessEnvironment(env);
+    launcher.setWorkingDirectory(sandbox.path());
+    launcher.start((bundle_copy.isEmpty() ? QString(layout::kBundleName) : bundle_copy) + kLauncher, QStringList());
+}
+
+LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env)
+{
+    QElapsedTimer timer;
+    timer.start();
+    QProcess launcher;
+    StartLauncher(launcher, env);
+    LauncherRun run;
+    const bool ended = launcher.waitForFinished(kTimeoutMs);
+    run.milliseconds = timer.elapsed();
+    if (!ended)
+        launcher.kill();
+    launcher.waitForFinished();
+    run.exit_code = ended && launcher.exitStatus() == QProcess::NormalExit ? launcher.exitCode() : -1;
+    run.out = QString::fromUtf8(launcher.readAllStandardOutput());
+    run.err = QString::fromUtf8(launcher.readAllStandardError());
+    return run;
+}
+
+void LauncherSandbox::StartClient(const char* behaviour) const
+{
+    QProcessEnvironment env = Environment();
+    env.insert("DROVIA_STAND_IN", behaviour);
+    QProcess client;
+    client.setProcessEnvironment(env);
+    client.setProgram(UserPath(layout::kBundleName) + "/" + layout::kClientExecutable);
+    const int started_before = StartLines(UserPath("started")).size();
+    ASSERT_TRUE(client.startDetached());
+    ASSERT_EQ(StartedBuilds(started_before + 1).size(), started_before + 1);
+}
+
+// "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running"
+QStringList LauncherSandbox::MessagesIn(const QString& log)
+{
+    static const QRegularExpression line_shape(QStringLiteral(R"(\] ([\w/-]+)\(\d+\): (.*)$)"));
+    QStringList messages;
+    for (const QString& line : log.split('\n', Qt::SkipEmptyParts)) {
+        const QRegularExpressionMatch match = line_shape.match(line);
+        if (match.hasMatch())
+            messages << match.captured(1) + ": " + match.captured(2);
+    }
+    return messages;
+}
+
+QStringList LauncherSandbox::LogMessages() const
+{
+    return MessagesIn(QString::fromStdString(ReadBytes(UserPath("log/launcher.log"))));
+}
+
+QStringList LauncherSandbox::StartedBuilds(int count) const
+{
+    WaitUntil([&] { return StartLines(UserPath("started")).size() >= count; }, kClientStartTimeoutMs);
+    QStringList builds;
+    for (const QString& line : StartLines(UserPath("started")))
+        builds << line.section(' ', 0, 0);
+    return builds;
+}
+
+// Once the client the last launcher started, if any, has announced itself.
+// An ended client, even one not reaped yet, has no executable left.
+QStringList LauncherSandbox::RunningBuilds() const
+{
+    const QString record = QString::fromStdString(ReadBytes(UserPath(layout::kLaunchRecord)));
+    const QString launched = " " + record.section('=', 1).trimmed();
+    WaitUntil([&] { return launched == " " || StartLines(UserPath("started")).join('\n').contains(launched); },
+              kClientStartTimeoutMs);
+    QStringList builds;
+    for (const QString& line : StartLines(UserPath("started"))) {
+        if (!QFile::symLinkTarget("/proc/" + line.section(' ', 1, 1) + "/exe").isEmpty())
+            builds << line.section(' ', 0, 0);
+    }
+    return builds;
+}
+
+int LauncherSandbox::LastStartedPid() const
+{
+    const QStringList lines = StartLines(UserPath("started"));
+    return lines.isEmpty() ? 0 : lines.last().section(' ', 1, 1).toInt();
+}
+
+QString LauncherSandbox::InstalledBuild() const
+{
+    const QString version_file = UserPath(layout::kBundleName) + "/" + layout::kResourcesFolder + "/INFO";
+    return QSettings(version_file, QSettings::IniFormat).value("Version/build_version").toString();
+}
+
+QStringList LauncherSandbox::Backups() const
+{
+    const QString backup = QString(layout::kBundleName) + layout::kBackupSuffix;
+    return QDir(UserPath("")).entryList({backup + "*"}, QDir::AllEntries | QDir::NoDotAndDotDot);
+}

@@ -1,0 +1,57 @@
+#ifndef SANDBOX_H
+#define SANDBOX_H
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "packages.h"
+
+struct LauncherRun {
+    int exit_code = -1;  // -1 when it crashed or did not end in time
+    QString out;
+    QString err;
+    qint64 milliseconds = 0;
+};
+
+// A copy of the built Drovia.app and a scratch home, whose name has blanks
+// and composed and decomposed accents, where the launcher runs as a user
+// would. Packages carry the stand-in client, which appends "<build> <pid>"
+// to ~/.Drovia/started when it starts. Skips without a PID namespace of its
+// own (own-namespace-main.cpp).
+class LauncherSandbox : public ::testing::Test {
+protected:
+    void SetUp() override;
+
+    QString UserPath(const QString& relative) const;
+    // A client bundle: the stand-in client, extra and, last, the version file.
+    static std::vector<PackageEntry> ClientBundle(int build, const std::vector<PackageEntry>& extra = {});
+    void Ship(int build, const std::string& package);  // into the bundle, with its version file
+    void Ship(int build) { Ship(build, MakeArchive(ClientBundle(build))); }
+    void InstallForUser(const std::vector<PackageEntry>& entries);
+    void CopyBundleTo(const QString& copy) const;
+    void MoveToNewHome(const QString& name);
+
+    QProcessEnvironment Environment() const;
+    void StartLauncher(QProcess& launcher, const QProcessEnvironment& env, const QString& bundle_copy = {}) const;
+    LauncherRun RunLauncher(const QProcessEnvironment& env);
+    LauncherRun RunLauncher() { return RunLauncher(Environment()); }
+    // The installed client, started detached as an earlier session would have.
+    void StartClient(const char* behaviour = "") const;
+
+    static QStringList MessagesIn(const QString& log);  // "launcher: running"
+    QStringList LogMessages() const;
+    QStringList StartedBuilds(int count = 1) const;  // once at least count clients started
+    QStringList RunningBuilds() const;
+    int LastStartedPid() const;
+    QString InstalledBuild() const;
+    QStringList Backups() const;
+
+    QTemporaryDir sandbox;
+    QString home;
+    QString bundle;
+};
+
+#endif  // SANDBOX_H

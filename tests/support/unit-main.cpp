@@ -1,0 +1,31 @@
+// main() of the tests that run the service and the extractor in process. The
+// toolkit reads HOME, so it points into a scratch folder before the
+// application object exists: the tests never see the real home folder.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include "files.h"
+#include "log-capture.h"
+#include "log.h"
+#include "strtable.h"
+
+QString LogCapture::path;
+
+int main(int argc, char** argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    QTemporaryDir scratch;
+    LogCapture::path = scratch.filePath("test.log");
+    const QString levels = scratch.filePath("levels");
+    const bool ready = qputenv("HOME", scratch.path().toUtf8()) &&
+                       WriteBytes(levels, "service_debug=7\nextractor_debug=7\nlauncher_debug=7\n") &&
+                       Logger::Initialize(Logger::TYPE_FILE, LogCapture::path.toUtf8().constData(),
+                                          levels.toUtf8().constData(), 50) == 0;
+    if (!ready)
+        return 1;
+    QCoreApplication application(argc, argv);
+    StrTable::InitStrTable();
+    return RUN_ALL_TESTS();
+}
