@@ -47,7 +47,8 @@ protected:
 
     void UseBundle()
     {
-        bundle_lock = open(qPrintable(resources + "/../../.test-lock"), O_CREAT | O_RDWR | O_CLOEXEC, 0644);
+        const QString lock_file = QDir::cleanPath(resources + "/../../.test-lock");
+        bundle_lock = open(qPrintable(lock_file), O_CREAT | O_RDWR | O_CLOEXEC, 0644);
         ASSERT_TRUE(bundle_lock >= 0 && flock(bundle_lock, LOCK_EX) == 0);
         QDir(resources).removeRecursively();
     }
@@ -64,7 +65,7 @@ protected:
     QTemporaryDir home{QDir::tempPath() + QString::fromUtf8("/J\xC3\xB6rg \xC3\x9C-XXXXXX")};
     const QString user_folder = home.path() + "/.Drovia";
     const QString user_app = user_folder + "/Drovia.app";
-    const QString resources = QCoreApplication::applicationDirPath() + "/../Resources";
+    const QString resources = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../Resources");
     int bundle_lock = -1;
 };
 
