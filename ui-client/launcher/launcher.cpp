@@ -2,24 +2,13 @@
 
 #include <QCoreApplication>
 
-#include "log.h"
 #include "notify-adapter.h"
 #include "processing-progress-dialog.h"
 #include "worker.h"
 
-#define LOG_COMPONENT "launcher_debug"
-#define LOG_TAG "launcher"
-
 namespace {
 
 const int kPercentScale = 100;
-
-struct SignalRoute {
-    QObject* sender;
-    const char* signal;
-    QObject* receiver;
-    const char* slot;
-};
 
 }  // namespace
 
@@ -81,20 +70,16 @@ void Launcher::ShowMsgBox()
     dialog->show();
 }
 
+// Automatic connections: the worker and the relay emit on the worker thread,
+// so their signals arrive here queued, in the order they were sent.
 void Launcher::ConnectSignals()
 {
     Notify_Adapter* relay = Notify_Adapter::GetInstance();
-    const SignalRoute routes[] = {
-        {this, SIGNAL(sigStart()), worker, SLOT(HandleServicce())},
-        {worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox())},
-        {worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone())},
-        {worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int))},
-        {worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString))},
-        {relay, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int))},
-        {relay, SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString))},
-    };
-    for (const SignalRoute& route : routes) {
-        if (!connect(route.sender, route.signal, route.receiver, route.slot))
-            LOG_MSG(ERROR, "cannot connect %s to %s", route.signal, route.slot);
-    }
+    connect(this, &Launcher::sigStart, worker, &Worker::HandleServicce);
+    connect(worker, &Worker::sigShowMsg, this, &Launcher::ShowMsgBox);
+    connect(worker, &Worker::sigServiceDone, this, &Launcher::LaunchDone);
+    connect(worker, &Worker::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(worker, &Worker::sigSetLabelText, this, &Launcher::SetLabelText);
+    connect(relay, &Notify_Adapter::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(relay, &Notify_Adapter::sigUpdateDialogText, this, &Launcher::SetLabelText);
 }

@@ -35,6 +35,9 @@ private slots:
     void HandleServicce();
 
 private:
+    // Only the Launcher starts the work, through sigStart.
+    friend class Launcher;
+
     void WaitForOtherLaunchers(InstallationLock& lock);
     void UpgradePackage();
     void FinishPendingWork();
