@@ -9,10 +9,18 @@
 
 // The file-system layer: free functions over ustring paths that report their
 // outcome as small integer codes and log failures under "file_op_debug".
-//
-// Codes: 0 success; -1 bad argument or failed examination; -2 missing source
-// (FSStat, FSRename), full device (FSCopy) or folder not created (FSMKDir);
-// -3 a failed step of a multi-step move or delete; -100 a name too long.
+
+// The codes. Callers that only need success or failure test for a negative one.
+const int FS_OK = 0;
+const int FS_ERROR = -1;           // a bad argument or a failed examination
+const int FS_SOURCE_MISSING = -2;  // FSStat, FSRename: missing, or not to be examined
+const int FS_DEVICE_FULL = -2;     // FSCopy
+const int FS_NOT_CREATED = -2;     // FSMKDir
+const int FS_STEP_FAILED = -3;     // a step of a multi-step move or delete
+const int FS_NAME_TOO_LONG = -100;
+// FSReadDir's results besides FS_ERROR.
+const int FS_DIR_ENTRY = 1;
+const int FS_DIR_END = 0;
 
 // File type codes, from st_mode for _FILE_INFO_tag and from d_type for DIR_ENTRY.
 const int32_t FILE_TYPE_UNKNOWN = 0;
@@ -67,31 +75,34 @@ bool IsFileExist(const ustring& path, bool exact);
 // Examines the entry itself, not a link's target. A missing path gives 0
 // with a placeholder record (exists false, mtime now).
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info);
-// 0 with path made canonical, or -1 with path unchanged.
+// FS_OK with path made canonical, or FS_ERROR with path unchanged.
 int FSGetRealPath(ustring& path);
-// 0 (info.exists tells), -1 empty path, -2 exists but cannot be examined.
+// FS_OK (info.exists tells), FS_ERROR for an empty path, FS_SOURCE_MISSING
+// when it exists but cannot be examined.
 int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact);
 
-// 0, -1, or -2 when the target device is full.
+// FS_OK, FS_ERROR or FS_DEVICE_FULL.
 int FSCopy(const ustring& src, const ustring& dst, bool remove_src);
-// 0, -1 empty argument, -2 missing source, -3 failed step, -100 name too long.
-// Falls back to copying when src and dst lie on different file systems.
+// FS_OK, FS_ERROR (empty argument), FS_SOURCE_MISSING, FS_STEP_FAILED or
+// FS_NAME_TOO_LONG. Falls back to copying when src and dst lie on different
+// file systems.
 int FSRename(const ustring& src, const ustring& dst, bool exact);
-// 0, -1, or -2 when the folder could not be created.
+// FS_OK, FS_ERROR or FS_NOT_CREATED.
 int FSMKDir(const ustring& path, bool recursive);
 // Creates every missing folder of path. mode 0xFFFF means 0777 under the
-// umask; any other mode is applied exactly. 0, or -1 with errno set.
+// umask; any other mode is applied exactly. FS_OK, or FS_ERROR with errno set.
 // stop_at receives a pointer into path's text where the last handled
 // component ends.
 int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigned short mode);
-// Recursive delete; links are removed, never followed. 0, -1 or -3.
+// Recursive delete; links are removed, never followed. FS_OK, FS_ERROR or
+// FS_STEP_FAILED.
 int FSRemove(const ustring& path, bool flag);
 
 int FSMktemp(const ustring& dir, ustring& out);
 int FSCreateTempPath(const ustring& dir, ustring& out);
 int FSUTime(const ustring& path, long atime, long mtime);
 
-// Directory walk: FSReadDir gives 1 with an entry, 0 at the end, -1 on error.
+// Directory walk: FSReadDir gives FS_DIR_ENTRY, FS_DIR_END or FS_ERROR.
 // FSCloseDir is called once after a successful FSOpenDir.
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle);
 int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry);

@@ -125,10 +125,10 @@ int openForCopy(const ustring& path, int flags) {
 // other write errors so that callers can say so.
 int reportWriteFailure(int error) {
     LOG_MSG(ERROR, "CopyFile: write: %s (%d)", strerror(error), error);
-    return error == ENOSPC ? -2 : -1;
+    return error == ENOSPC ? FS_DEVICE_FULL : FS_ERROR;
 }
 
-// Writes all of data, continuing after short writes; 0, -1 or -2.
+// Writes all of data, continuing after short writes; FS_OK, FS_ERROR or FS_DEVICE_FULL.
 int writeChunk(int fd, const char* data, ssize_t length) {
     while (length > 0) {
         const ssize_t written = write(fd, data, static_cast<size_t>(length));
@@ -139,7 +139,7 @@ int writeChunk(int fd, const char* data, ssize_t length) {
         data += written;
         length -= written;
     }
-    return 0;
+    return FS_OK;
 }
 
 ssize_t readChunk(int fd, char* buffer) {
@@ -150,25 +150,25 @@ ssize_t readChunk(int fd, char* buffer) {
     return count;
 }
 
-// Copies every byte from src_fd to dst_fd; 0, -1 or -2.
+// Copies every byte from src_fd to dst_fd; FS_OK, FS_ERROR or FS_DEVICE_FULL.
 int copyBytes(int src_fd, int dst_fd) {
     std::unique_ptr<char, FreeDeleter> buffer(static_cast<char*>(malloc(kCopyBufferSize)), &free);
     if (!buffer) {
         LOG_MSG(ERROR, "FSCopy: malloc(%d): %s (%d)",
                 static_cast<int>(kCopyBufferSize), strerror(errno), errno);
-        return -1;
+        return FS_ERROR;
     }
     ssize_t count;
     while ((count = readChunk(src_fd, buffer.get())) > 0) {
         const int status = writeChunk(dst_fd, buffer.get(), count);
-        if (status != 0)
+        if (status != FS_OK)
             return status;
     }
     if (count < 0) {
         LOG_MSG(ERROR, "CopyFile: read: %s (%d)", strerror(errno), errno);
-        return -1;
+        return FS_ERROR;
     }
-    return 0;
+    return FS_OK;
 }
 
 // Flushes and closes fd; the first failure's errno is kept.
@@ -186,14 +186,14 @@ int syncAndClose(int fd) {
 // Data the device could not take may only show up at the flush; a copy that
 // then counted as done would let FSRename delete the only good source.
 int finishCopyTarget(int dst_fd, int copy_status) {
-    if (syncAndClose(dst_fd) == 0 || copy_status != 0)
+    if (syncAndClose(dst_fd) == 0 || copy_status != FS_OK)
         return copy_status;
     return reportWriteFailure(errno);
 }
 
 // Removes one file, link or empty folder as a step of a move or delete.
 int removeEntry(const ustring& path) {
-    return remove(path.c_str()) == 0 ? 0 : -3;
+    return remove(path.c_str()) == 0 ? FS_OK : FS_STEP_FAILED;
 }
 
 int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact);
@@ -202,10 +202,10 @@ int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact);
 // cannot be carried over by copying and are left where they are.
 int moveAcrossDevices(const ustring& src, const ustring& dst, int32_t type, bool exact) {
     if (type == FILE_TYPE_REGULAR)
-        return FSCopy(src, dst, true) < 0 ? -3 : 0;
+        return FSCopy(src, dst, true) < 0 ? FS_STEP_FAILED : FS_OK;
     if (type == FILE_TYPE_DIRECTORY)
         return moveFolderAcrossDevices(src, dst, exact);
-    return 0;
+    return FS_OK;
 }
 
 enum class WalkOutcome { NotOpened, Stopped, Finished };
@@ -215,14 +215,14 @@ enum class WalkOutcome { NotOpened, Stopped, Finished };
 // error ends the walk as if the folder were exhausted.
 WalkOutcome forEachChild(const ustring& dir, const std::function<int(const ustring&)>& visit) {
     DIR_HANDLE handle;
-    if (FSOpenDir(dir, 0, handle) != 0)
+    if (FSOpenDir(dir, 0, handle) != FS_OK)
         return WalkOutcome::NotOpened;
     WalkOutcome outcome = WalkOutcome::Finished;
     DIR_ENTRY entry;
-    while (FSReadDir(handle, entry) == 1) {
+    while (FSReadDir(handle, entry) == FS_DIR_ENTRY) {
         if (isDotEntry(entry.name))
             continue;
-        if (visit(entry.name) != 0) {
+        if (visit(entry.name) != FS_OK) {
             outcome = WalkOutcome::Stopped;
             break;
         }
@@ -232,13 +232,13 @@ WalkOutcome forEachChild(const ustring& dir, const std::function<int(const ustri
 }
 
 int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact) {
-    if (FSMKDir(dst, true) != 0)
-        return -3;
+    if (FSMKDir(dst, true) != FS_OK)
+        return FS_STEP_FAILED;
     const WalkOutcome outcome = forEachChild(src, [&](const ustring& name) {
         return FSRename(childPath(src, name), childPath(dst, name), exact);
     });
     if (outcome != WalkOutcome::Finished)
-        return -3;
+        return FS_STEP_FAILED;
     return removeEntry(src);
 }
 
@@ -336,9 +336,9 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     struct stat st;
     if (lstat(path.c_str(), &st) != 0) {
         if (errno != ENOENT)
-            return -1;
+            return FS_ERROR;
         fillMissingFileInfo(path, info);
-        return 0;
+        return FS_OK;
     }
     info.exists = true;
     info.mtime = static_cast<int32_t>(st.st_mtime);
@@ -349,11 +349,11 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     info.mode = st.st_mode & kStatModeBits;
     const int32_t type = typeFromMode(st.st_mode);
     if (type < 0)
-        return -1;
+        return FS_ERROR;
     info.type = type;
     // A path the platform cannot resolve (a dangling link) keeps its spelling.
     FSGetRealPath(info.path);
-    return 0;
+    return FS_OK;
 }
 
 int FSGetRealPath(ustring& path) {
@@ -361,87 +361,87 @@ int FSGetRealPath(ustring& path) {
     char canonical[fs_platform::kPathBufferSize] = {};
     fs_platform::ResolveStep failed_step;
     if (fs_platform::canonical_path(path.c_str(), canonical, &failed_step) != 0)
-        return -1;
+        return FS_ERROR;
     path = canonical;
     LOG_MSG(DEBUG, " get full path [%s]", path.c_str());
-    return 0;
+    return FS_OK;
 }
 
 int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact) {
     if (path.empty())
-        return -1;
+        return FS_ERROR;
     if (!IsFileExist(path, exact)) {
         info.exists = false;
-        return 0;
+        return FS_OK;
     }
-    return GetFileInfo(path, info) == 0 ? 0 : -2;
+    return GetFileInfo(path, info) == FS_OK ? FS_OK : FS_SOURCE_MISSING;
 }
 
 int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
     const int src_fd = openForCopy(src, O_RDONLY);
     if (src_fd < 0)
-        return -1;
+        return FS_ERROR;
     const int dst_fd = openForCopy(dst, O_WRONLY | O_CREAT | O_TRUNC);
     if (dst_fd < 0) {
         close(src_fd);
-        return -1;
+        return FS_ERROR;
     }
     const int status = finishCopyTarget(dst_fd, copyBytes(src_fd, dst_fd));
     // Read-only descriptor: closing it cannot lose data.
     close(src_fd);
-    if (status != 0 || !remove_src)
+    if (status != FS_OK || !remove_src)
         return status;
-    return remove(src.c_str()) == 0 ? 0 : -1;
+    return remove(src.c_str()) == 0 ? FS_OK : FS_ERROR;
 }
 
 int FSRename(const ustring& src, const ustring& dst, bool exact) {
     if (src.empty() || dst.empty())
-        return -1;
+        return FS_ERROR;
     _FILE_INFO_tag info;
-    if (FSStat(src, info, exact) != 0 || !info.exists)
-        return -2;
+    if (FSStat(src, info, exact) != FS_OK || !info.exists)
+        return FS_SOURCE_MISSING;
     if (rename(src.c_str(), dst.c_str()) == 0)
-        return 0;
+        return FS_OK;
     const int error = errno;
     if (error == EXDEV)
         return moveAcrossDevices(src, dst, info.type, exact);
     LOG_MSG(ERROR, "FSRename: rename(%s, %s): %s (%d)",
             src.c_str(), dst.c_str(), strerror(error), error);
-    return error == ENAMETOOLONG ? -100 : -3;
+    return error == ENAMETOOLONG ? FS_NAME_TOO_LONG : FS_STEP_FAILED;
 }
 
 int FSMKDir(const ustring& path, bool recursive) {
     if (path.empty())
-        return -1;
+        return FS_ERROR;
     _FILE_INFO_tag info;
-    if (GetFileInfo(path, info) != 0) {
+    if (GetFileInfo(path, info) != FS_OK) {
         LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'", path.c_str());
-        return -1;
+        return FS_ERROR;
     }
     if (info.exists) {
         if (info.type == FILE_TYPE_DIRECTORY)
-            return 0;
+            return FS_OK;
         LOG_MSG(ERROR, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)",
                 path.c_str(), info.type);
-        return -1;
+        return FS_ERROR;
     }
     const int status = recursive ? FSMKDirP(path, nullptr, false, kDefaultFolderModeRequest)
                                  : mkdir(path.c_str(), kDefaultFolderMode);
     if (status != 0) {
         LOG_MSG(ERROR, "FSMKDir: mkdir(%s): %s (%d)", path.c_str(), strerror(errno), errno);
-        return -2;
+        return FS_NOT_CREATED;
     }
     if (FSChown(path) != 0)
         LOG_MSG(DEBUG, "chown(%s): %s", path.c_str(), strerror(errno));
-    return 0;
+    return FS_OK;
 }
 
 int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigned short mode) {
     if (path.empty())
-        return -1;
+        return FS_ERROR;
     std::unique_ptr<char, FreeDeleter> text(strdup(path.c_str()), &free);
     if (!text)
-        return -1;
+        return FS_ERROR;
     // An explicit mode is meant literally, so the umask is lifted meanwhile.
     const bool explicit_mode = mode != kDefaultFolderModeRequest;
     const mode_t saved_umask = explicit_mode ? umask(0) : 0;
@@ -459,21 +459,21 @@ int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigne
 
 int FSRemove(const ustring& path, bool) {
     if (path.empty())
-        return -1;
+        return FS_ERROR;
     _FILE_INFO_tag info;
-    if (GetFileInfo(path, info) != 0)
-        return -1;
+    if (GetFileInfo(path, info) != FS_OK)
+        return FS_ERROR;
     if (!info.exists)
-        return 0;
+        return FS_OK;
     // lstat typed a link as a link, so it is removed itself, never followed.
     if (info.type != FILE_TYPE_DIRECTORY)
         return removeEntry(path);
     const WalkOutcome outcome =
         forEachChild(path, [&](const ustring& name) { return FSRemove(childPath(path, name), false); });
     if (outcome == WalkOutcome::NotOpened)
-        return 0;
+        return FS_OK;
     if (outcome == WalkOutcome::Stopped)
-        return -3;
+        return FS_STEP_FAILED;
     return removeEntry(path);
 }
 
@@ -489,24 +489,24 @@ int FSMktemp(const ustring& dir, ustring& out) {
     }
     if (fd < 0) {
         LOG_MSG(ERROR, "mkstemp(%s): %s", name_template.c_str(), strerror(errno));
-        return -1;
+        return FS_ERROR;
     }
     if (syncAndClose(fd) != 0)
         LOG_MSG(WARNING, "fsync(%s): %s", name, strerror(errno));
     out = name;
     if (chmod(name, kTempFileMode) != 0)
         LOG_MSG(WARNING, "chmod(%s): %s", name, strerror(errno));
-    return 0;
+    return FS_OK;
 }
 
 int FSCreateTempPath(const ustring& dir, ustring& out) {
     out = TmpNameGen::getInstance()->getTmpPath(dir);
-    return out.empty() ? -1 : 0;
+    return out.empty() ? FS_ERROR : FS_OK;
 }
 
 int FSUTime(const ustring& path, long atime, long mtime) {
     const struct utimbuf times = {atime, mtime};
-    return utime(path.c_str(), &times) == 0 ? 0 : -1;
+    return utime(path.c_str(), &times) == 0 ? FS_OK : FS_ERROR;
 }
 
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
@@ -514,12 +514,12 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
     if (dir == nullptr) {
         LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s",
                 path.c_str(), strerror(errno));
-        return -1;
+        return FS_ERROR;
     }
     handle.dir = dir;
     handle.path = path;
     handle.flags = flags;
-    return 0;
+    return FS_OK;
 }
 
 int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
@@ -528,25 +528,25 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     const struct dirent* next = readdir(handle.dir);
     if (next == nullptr) {
         if (errno == 0)
-            return 0;
+            return FS_DIR_END;
         LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s",
                 handle.path.c_str(), strerror(errno));
-        return -1;
+        return FS_ERROR;
     }
     // An entry that vanishes before it is examined keeps time and size 0.
     _FILE_INFO_tag info;
     if (handle.flags & FS_DIR_WITH_INFO) {
         const ustring full_path = childPath(handle.path, next->d_name);
-        if (FSStat(full_path, info, true) < 0) {
+        if (FSStat(full_path, info, true) < FS_OK) {
             LOG_MSG(ERROR, "FSOpenDir: Failed to get info for '%s'", full_path.c_str());
-            return -1;
+            return FS_ERROR;
         }
     }
     entry.mtime = info.mtime;
     entry.size = info.size;
     entry.name = next->d_name;
     entry.type = typeFromDirentType(next->d_type);
-    return 1;
+    return FS_DIR_ENTRY;
 }
 
 void FSCloseDir(DIR_HANDLE& handle) {

@@ -74,7 +74,7 @@ int MoveAppAside(const ustring& app, ustring& backup)
 {
     for (int index = 0; index < layout::kBackupNames; ++index) {
         backup = GetAppBackupDir(app, index);
-        if (FSRename(app, backup, false) == 0)
+        if (FSRename(app, backup, false) == FS_OK)
             return index;
         LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'",
                 app.c_str_utf8(), backup.c_str_utf8());
@@ -168,7 +168,7 @@ int Service::ExtractPackage()
 {
     const ustring archive = GetRootDroviaResourceInstallPath() + "/" + layout::kPackageArchive;
     const ustring destination = GetUserDroviaAppInstallPath();
-    if (FSMKDir(destination, true) < 0) {
+    if (FSMKDir(destination, true) != FS_OK) {
         LOG_MSG(ERROR, "failed to create folder: '%s'", destination.c_str_utf8());
         return -1;
     }
