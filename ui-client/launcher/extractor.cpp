@@ -21,7 +21,6 @@
 namespace {
 
 const size_t kReadBlockSize = 10240;
-const int kPreparingLabelId = 393;  // "Drovia is initializing..."
 
 // Replace files in place, refuse ".." paths, keep macOS metadata where the
 // library supports it; permissions, times and owners stay at the defaults.
@@ -145,7 +144,7 @@ int Extractor::Extract()
     }
     LOG_MSG(DEBUG, "decompress from '%s' to '%s'",
             archive_path.c_str_utf8(), dest_path.c_str_utf8());
-    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingLabelId));
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kEnvironmentPreparing));
     const Utf8Names utf8_names;
 
     // Refusing an empty archive here keeps the progress total at 1 or more.

@@ -11,6 +11,7 @@
 
 #include "VelmLocale.h"
 #include "cloud-service.h"
+#include "install-layout.h"
 #include "launcher.h"
 #include "log.h"
 #include "qt-ustring.h"
@@ -39,11 +40,11 @@ void UseBundlePlugins(const char* argv0)
 // warnings still show.
 void OpenLog()
 {
-    const ustring level_file = Service::GetRootDroviaInstallPath() + "/log/launcher.debug";
-    const ustring log_folder = Service::GetUserDroviaInstallPath() + "/log";
+    const ustring level_file = Service::GetRootDroviaInstallPath() + "/" + layout::kLevelFile;
+    const ustring log_folder = Service::GetUserDroviaInstallPath() + "/" + layout::kLogFolder;
     if (!QDir().mkpath(ToQString(log_folder)))
         return;
-    const ustring log_file = log_folder + "/launcher.log";
+    const ustring log_file = log_folder + "/" + layout::kLogFile;
     if (Logger::Initialize(Logger::TYPE_FILE, log_file, level_file, kLogRotateCount) != 0)
         std::fprintf(stderr, "launcher: cannot open %s, logging to standard error\n", log_file.c_str_utf8());
 }

@@ -5,15 +5,13 @@
 #include <QString>
 
 #include "cloud-service.h"
+#include "install-layout.h"
 #include "qt-ustring.h"
 #include "strtable.h"
 
 namespace {
 
-constexpr int kTitleStrId = 202;      // app_name
-constexpr int kPreparingStrId = 393;  // desc_drov_env_preparing
 constexpr int kDialogWidth = 400;
-constexpr char kIconFile[] = "/images/ico_72_drovia.png";
 constexpr char kStyleSheet[] =
     " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ";
 
@@ -23,11 +21,10 @@ ProcessingProgressDialog::ProcessingProgressDialog()
     : QProgressDialog(nullptr, Qt::WindowFlags())
 {
     const QFont font(QStringLiteral("Arial"), -1, -1, false);
-    const QString iconPath =
-        ToQString(Service::GetRootDroviaResourceInstallPath()) + QLatin1String(kIconFile);
+    const QString icon_path = ToQString(Service::GetRootDroviaResourceInstallPath()) + "/" + layout::kDialogIcon;
 
-    setWindowTitle(StrTable::LoadStr(kTitleStrId));
-    setWindowIcon(QIcon(iconPath));
+    setWindowTitle(StrTable::LoadStr(StrTable::kAppName));
+    setWindowIcon(QIcon(icon_path));
     // Only a title bar with its system menu: no minimise, maximise or close
     // button, since the upgrade cannot be interrupted halfway.
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
@@ -35,7 +32,7 @@ ProcessingProgressDialog::ProcessingProgressDialog()
     // becomes visible even before the Launcher shows the dialog itself.
     setValue(0);
     setRange(0, 100);
-    setLabelText(StrTable::LoadStr(kPreparingStrId));
+    setLabelText(StrTable::LoadStr(StrTable::kEnvironmentPreparing));
     setFont(font);
     setFixedWidth(kDialogWidth);
     setModal(true);

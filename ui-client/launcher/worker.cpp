@@ -16,7 +16,6 @@
 namespace {
 
 const int kProgressComplete = 100;
-const int kReadyTextId = 465;
 
 }  // namespace
 
@@ -90,7 +89,7 @@ void Worker::UpgradePackage()
         return;
     }
     emit sigUpdateProgress(kProgressComplete, kProgressComplete);
-    emit sigSetLabelText(StrTable::LoadStr(kReadyTextId));
+    emit sigSetLabelText(StrTable::LoadStr(StrTable::kEnvironmentPreparationDone));
 }
 
 // The GUI's event loop may end before the work does: closing the dialog
