@@ -29,7 +29,7 @@ constexpr int kLocaleAgainLine = 80;
 constexpr int kChosenLine = 138;
 constexpr int kInstalledLine = 161;
 
-void logValue(int line, const char* function, const char* format, const char* label,
+void LogValue(int line, const char* function, const char* format, const char* label,
               const QString& value)
 {
     QMessageLogger(kLogFile, line, function, kLogCategory)
@@ -37,7 +37,7 @@ void logValue(int line, const char* function, const char* format, const char* la
 }
 
 // Both lists end with a null string.
-bool isListed(const QString& localeLower, const QString* list)
+bool IsListed(const QString& localeLower, const QString* list)
 {
     for (int i = 0; !list[i].isNull(); ++i) {
         if (localeLower == list[i])
@@ -46,7 +46,7 @@ bool isListed(const QString& localeLower, const QString* list)
     return false;
 }
 
-QMap<QString, QString> languagePartMap()
+QMap<QString, QString> LanguagePartMap()
 {
     QMap<QString, QString> map;
     map.insert(QStringLiteral("en"), QStringLiteral("enu"));
@@ -83,9 +83,9 @@ QString VelmLocale::languageForLocaleName(const QString& localeName)
         QStringLiteral("zh_tw"), QStringLiteral("zh_hk"), QStringLiteral("zh_mo"), QString()};
     const QString rgqstrPortugal[] = {QStringLiteral("pt"), QStringLiteral("pt_pt"), QString()};
 
-    if (isListed(qstrLocaleLower, rgqstrTraditionalChinese))
+    if (IsListed(qstrLocaleLower, rgqstrTraditionalChinese))
         return QStringLiteral("cht");
-    if (isListed(qstrLocaleLower, rgqstrPortugal))
+    if (IsListed(qstrLocaleLower, rgqstrPortugal))
         return QStringLiteral("ptg");
 
     QString qstrLanguagePart = qstrLocaleLower;
@@ -93,23 +93,23 @@ QString VelmLocale::languageForLocaleName(const QString& localeName)
     if (underscore >= 0)
         qstrLanguagePart.truncate(underscore);
 
-    const QMap<QString, QString> map = languagePartMap();
+    const QMap<QString, QString> map = LanguagePartMap();
     return map.value(qstrLanguagePart, map.value(QStringLiteral("en")));
 }
 
 QString VelmLocale::getDefaultLanguage()
 {
     const QString qstrLocaleLower = QLocale::system().name().toLower();
-    logValue(kLocaleLine, Q_FUNC_INFO, kValueBreakFormat, "qPrintable(qstrLocaleLower)",
+    LogValue(kLocaleLine, Q_FUNC_INFO, kValueBreakFormat, "qPrintable(qstrLocaleLower)",
              qstrLocaleLower);
-    logValue(kLocaleAgainLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLocaleLower)",
+    LogValue(kLocaleAgainLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLocaleLower)",
              qstrLocaleLower);
 
     QString qstrDef = languageForLocaleName(qstrLocaleLower);
     if (!isLanguageInstalled(qstrDef))
         qstrDef = qstrLanguageFallSafe;
 
-    logValue(kChosenLine, Q_FUNC_INFO, kValueBreakFormat, "qPrintable(qstrDef)", qstrDef);
+    LogValue(kChosenLine, Q_FUNC_INFO, kValueBreakFormat, "qPrintable(qstrDef)", qstrDef);
     return qstrDef;
 }
 
@@ -118,7 +118,7 @@ bool VelmLocale::isLanguageInstalled(QString const& lang)
     const QString qstrLangFileName = QStringLiteral(":/") + lang + QStringLiteral(".qm");
     if (!QFile::exists(qstrLangFileName))
         return false;
-    logValue(kInstalledLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLangFileName)",
+    LogValue(kInstalledLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLangFileName)",
              qstrLangFileName);
     return true;
 }

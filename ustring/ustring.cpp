@@ -37,7 +37,7 @@ static_assert(ustring::npos == std::string_view::npos,
 // strings are built once and then only read, so slack would be pure waste.
 // A buffer less than about half used is shrunk for the same reason.
 template <typename Unit>
-void grow_to_fit(Unit*& buffer, unsigned long& capacity, unsigned long needed)
+void GrowToFit(Unit*& buffer, unsigned long& capacity, unsigned long needed)
 {
     needed = std::max(needed, 1UL);  // the terminator always needs room
     if (capacity >= needed && capacity / 2 <= needed)
@@ -51,7 +51,7 @@ void grow_to_fit(Unit*& buffer, unsigned long& capacity, unsigned long needed)
     capacity = needed;
 }
 
-unsigned long size_with_terminator(unsigned long length, unsigned long extra)
+unsigned long SizeWithTerminator(unsigned long length, unsigned long extra)
 {
     if (extra >= std::numeric_limits<unsigned long>::max() - length)
         throw std::bad_alloc();
@@ -59,7 +59,7 @@ unsigned long size_with_terminator(unsigned long length, unsigned long extra)
 }
 
 template <typename Unit>
-bool points_into(const Unit* p, const Unit* buffer, unsigned long capacity)
+bool PointsInto(const Unit* p, const Unit* buffer, unsigned long capacity)
 {
     std::less<const Unit*> before;
     return !before(p, buffer) && before(p, buffer + capacity);
@@ -68,12 +68,12 @@ bool points_into(const Unit* p, const Unit* buffer, unsigned long capacity)
 // Self-appends read from the buffer being grown, so the source is looked up
 // again after a realloc may have moved it.
 template <typename Unit>
-void append_units(Unit*& buffer, unsigned long& length, unsigned long& capacity,
+void AppendUnits(Unit*& buffer, unsigned long& length, unsigned long& capacity,
                   const Unit* source, unsigned long count)
 {
-    const bool own = points_into(source, buffer, capacity);
+    const bool own = PointsInto(source, buffer, capacity);
     const std::size_t offset = own ? static_cast<std::size_t>(source - buffer) : 0;
-    grow_to_fit(buffer, capacity, size_with_terminator(length, count));
+    GrowToFit(buffer, capacity, SizeWithTerminator(length, count));
     if (own)
         source = buffer + offset;
     std::memmove(buffer + length, source, count * sizeof(Unit));
@@ -82,16 +82,16 @@ void append_units(Unit*& buffer, unsigned long& length, unsigned long& capacity,
 }
 
 template <typename Unit>
-void fill_units(Unit*& buffer, unsigned long& length, unsigned long& capacity,
+void FillUnits(Unit*& buffer, unsigned long& length, unsigned long& capacity,
                 Unit unit, unsigned long count)
 {
-    grow_to_fit(buffer, capacity, size_with_terminator(length, count));
+    GrowToFit(buffer, capacity, SizeWithTerminator(length, count));
     std::fill_n(buffer + length, count, unit);
     length += count;
     buffer[length] = 0;
 }
 
-unsigned long units_before_terminator(const unsigned short* units, unsigned long limit)
+unsigned long UnitsBeforeTerminator(const unsigned short* units, unsigned long limit)
 {
     unsigned long count = 0;
     while (count < limit && units[count] != 0)
@@ -100,7 +100,7 @@ unsigned long units_before_terminator(const unsigned short* units, unsigned long
 }
 
 // The part [pos, pos + n) of a text, clipped to its end and to its first 0 byte.
-std::string_view checked_substring(const char* bytes, unsigned long length,
+std::string_view CheckedSubstring(const char* bytes, unsigned long length,
                                    unsigned long pos, unsigned long n, const char* error)
 {
     if (pos > length)
@@ -109,7 +109,7 @@ std::string_view checked_substring(const char* bytes, unsigned long length,
     return std::string_view(start, strnlen(start, std::min(n, length - pos)));
 }
 
-std::string_view text_of(const ustring& s)
+std::string_view TextOf(const ustring& s)
 {
     return std::string_view(s.c_str(), s.size());
 }
@@ -120,12 +120,12 @@ int32_t icu_capacity(unsigned long capacity)
         std::min<unsigned long>(capacity, std::numeric_limits<int32_t>::max()));
 }
 
-unsigned long icu_length(int32_t length)
+unsigned long IcuLength(int32_t length)
 {
     return static_cast<unsigned long>(std::max<int32_t>(length, 0));
 }
 
-void warn(const char* function, UErrorCode code, int line)
+void Warn(const char* function, UErrorCode code, int line)
 {
     std::cerr << "Warning: " << function << ": error code " << code
               << " at line " << line << std::endl;
@@ -133,7 +133,7 @@ void warn(const char* function, UErrorCode code, int line)
 
 using FoldTable = std::array<unsigned char, 256>;
 
-constexpr FoldTable make_fold_table(bool ascii_lower)
+constexpr FoldTable MakeFoldTable(bool ascii_lower)
 {
     FoldTable table{};
     for (int byte = 0; byte < 256; ++byte) {
@@ -145,11 +145,11 @@ constexpr FoldTable make_fold_table(bool ascii_lower)
 
 // Only ASCII letters fold: paths are compared as bytes, and a locale-aware
 // fold would make the order of config keys depend on the user's settings.
-constexpr FoldTable kIdentity = make_fold_table(false);
-constexpr FoldTable kAsciiLower = make_fold_table(true);
+constexpr FoldTable kIdentity = MakeFoldTable(false);
+constexpr FoldTable kAsciiLower = MakeFoldTable(true);
 
 // The terminator takes part, so a proper prefix orders before the longer text.
-int compare_bytes(const ustring& a, const ustring& b, unsigned long n, bool ignore_case)
+int CompareBytes(const ustring& a, const ustring& b, unsigned long n, bool ignore_case)
 {
     const FoldTable& fold = ignore_case ? kAsciiLower : kIdentity;
     const unsigned long limit = std::min(std::min(a.size(), b.size()) + 1, n);
@@ -164,7 +164,7 @@ int compare_bytes(const ustring& a, const ustring& b, unsigned long n, bool igno
 }
 
 template <typename Right>
-ustring concatenated(const ustring& left, const Right& right)
+ustring Concatenated(const ustring& left, const Right& right)
 {
     ustring result(left);
     result += right;
@@ -197,12 +197,12 @@ void ustring::init()
 
 void ustring::realloc_data(unsigned long n)
 {
-    grow_to_fit(data, data_capacity, n);
+    GrowToFit(data, data_capacity, n);
 }
 
 void ustring::realloc_wdata(unsigned long n) const
 {
-    grow_to_fit(wdata, wdata_capacity, n);
+    GrowToFit(wdata, wdata_capacity, n);
 }
 
 void ustring::clear()
@@ -245,12 +245,12 @@ int ustring::convert_from_data() const
     int32_t units = 0;
     // Only the length is wanted here; the status of a measuring call is moot.
     u_strFromUTF8(nullptr, 0, &units, data, -1, &status);
-    const unsigned long length = icu_length(units);
+    const unsigned long length = IcuLength(units);
     realloc_wdata(length + 1);
     status = U_ZERO_ERROR;
     u_strFromUTF8(wdata, icu_capacity(wdata_capacity), nullptr, data, -1, &status);
     if (U_FAILURE(status)) {
-        warn("u_strFromUTF8", status, kFromUtf8WarningLine);
+        Warn("u_strFromUTF8", status, kFromUtf8WarningLine);
         clear_wdata();
         return -1;
     }
@@ -264,12 +264,12 @@ int ustring::convert_from_wdata()
     UErrorCode status = U_ZERO_ERROR;
     int32_t bytes = 0;
     u_strToUTF8(nullptr, 0, &bytes, wdata, -1, &status);
-    const unsigned long length = icu_length(bytes);
+    const unsigned long length = IcuLength(bytes);
     realloc_data(length + 1);
     status = U_ZERO_ERROR;
     u_strToUTF8(data, icu_capacity(data_capacity), nullptr, wdata, -1, &status);
     if (U_FAILURE(status)) {
-        warn("u_strToUTF8", status, kToUtf8WarningLine);
+        Warn("u_strToUTF8", status, kToUtf8WarningLine);
         clear();
         return -1;
     }
@@ -324,7 +324,7 @@ ustring::~ustring()
 
 ustring& ustring::append_utf8(const char* bytes, unsigned long count)
 {
-    append_units(data, data_len, data_capacity, bytes, count);
+    AppendUnits(data, data_len, data_capacity, bytes, count);
     clear_wdata();
     return *this;
 }
@@ -332,7 +332,7 @@ ustring& ustring::append_utf8(const char* bytes, unsigned long count)
 // Expects the UTF-16 form to be current.
 ustring& ustring::append_utf16(const unsigned short* units, unsigned long count)
 {
-    append_units(wdata, wdata_len, wdata_capacity, units, count);
+    AppendUnits(wdata, wdata_len, wdata_capacity, units, count);
     // A failed conversion has already warned and emptied both forms.
     (void)convert_from_wdata();
     return *this;
@@ -361,12 +361,12 @@ ustring& ustring::append(const unsigned short* s, unsigned long n)
     make_wdata_current();
     if (own)
         return append_utf16(wdata, std::min(n, wdata_len));
-    return append_utf16(s, units_before_terminator(s, n));
+    return append_utf16(s, UnitsBeforeTerminator(s, n));
 }
 
 ustring& ustring::append(char c, unsigned long n)
 {
-    fill_units(data, data_len, data_capacity, c, n);
+    FillUnits(data, data_len, data_capacity, c, n);
     clear_wdata();
     return *this;
 }
@@ -374,20 +374,20 @@ ustring& ustring::append(char c, unsigned long n)
 ustring& ustring::append(unsigned short c, unsigned long n)
 {
     make_wdata_current();
-    fill_units(wdata, wdata_len, wdata_capacity, c, n);
+    FillUnits(wdata, wdata_len, wdata_capacity, c, n);
     (void)convert_from_wdata();  // on failure it has warned and emptied both forms
     return *this;
 }
 
 ustring& ustring::append(const ustring& s, unsigned long pos, unsigned long n)
 {
-    const std::string_view part = checked_substring(s.data, s.data_len, pos, n, kSubstrError);
+    const std::string_view part = CheckedSubstring(s.data, s.data_len, pos, n, kSubstrError);
     return append_utf8(part.data(), part.size());
 }
 
 ustring& ustring::append(const std::string& s, unsigned long pos, unsigned long n)
 {
-    const std::string_view part = checked_substring(s.data(), s.size(), pos, n, kStdSubstrError);
+    const std::string_view part = CheckedSubstring(s.data(), s.size(), pos, n, kStdSubstrError);
     return append_utf8(part.data(), part.size());
 }
 
@@ -442,7 +442,7 @@ ustring& ustring::assign(unsigned short c, unsigned long n)
 
 ustring& ustring::assign(const ustring& s, unsigned long pos, unsigned long n)
 {
-    const std::string_view part = checked_substring(s.data, s.data_len, pos, n, kSubstrError);
+    const std::string_view part = CheckedSubstring(s.data, s.data_len, pos, n, kSubstrError);
     if (&s == this) {
         keep_bytes(static_cast<unsigned long>(part.data() - data), part.size());
         realloc_data(part.size() + 1);
@@ -454,7 +454,7 @@ ustring& ustring::assign(const ustring& s, unsigned long pos, unsigned long n)
 
 ustring& ustring::assign(const std::string& s, unsigned long pos, unsigned long n)
 {
-    const std::string_view part = checked_substring(s.data(), s.size(), pos, n, kStdSubstrError);
+    const std::string_view part = CheckedSubstring(s.data(), s.size(), pos, n, kStdSubstrError);
     clear();
     return append_utf8(part.data(), part.size());
 }
@@ -492,7 +492,7 @@ const char& ustring::operator[](unsigned long i) const { return data[i]; }
 
 ustring ustring::substr(unsigned long pos, unsigned long n) const
 {
-    const std::string_view part = checked_substring(data, data_len, pos, n, kSubstrError);
+    const std::string_view part = CheckedSubstring(data, data_len, pos, n, kSubstrError);
     ustring result;
     result.append_utf8(part.data(), part.size());
     return result;
@@ -521,42 +521,42 @@ unsigned long ustring::find(const char* pattern, unsigned long pos) const
 {
     if (pos >= data_len)
         return npos;
-    return text_of(*this).find(pattern, pos);
+    return TextOf(*this).find(pattern, pos);
 }
 
 unsigned long ustring::rfind(const char* pattern, unsigned long pos) const
 {
     if (data_len == 0)
         return npos;
-    return text_of(*this).rfind(pattern, std::min(pos, data_len - 1));
+    return TextOf(*this).rfind(pattern, std::min(pos, data_len - 1));
 }
 
 unsigned long ustring::find_first_of(const char* set, unsigned long pos) const
 {
     if (pos >= data_len)
         return npos;
-    return text_of(*this).find_first_of(set, pos);
+    return TextOf(*this).find_first_of(set, pos);
 }
 
 unsigned long ustring::find_first_not_of(const char* set, unsigned long pos) const
 {
     if (pos >= data_len)
         return npos;
-    return text_of(*this).find_first_not_of(set, pos);
+    return TextOf(*this).find_first_not_of(set, pos);
 }
 
 unsigned long ustring::find_last_of(const char* set, unsigned long pos) const
 {
     if (data_len == 0)
         return npos;
-    return text_of(*this).find_last_of(set, std::min(pos, data_len - 1));
+    return TextOf(*this).find_last_of(set, std::min(pos, data_len - 1));
 }
 
 unsigned long ustring::find_last_not_of(const char* set, unsigned long pos) const
 {
     if (data_len == 0)
         return npos;
-    return text_of(*this).find_last_not_of(set, std::min(pos, data_len - 1));
+    return TextOf(*this).find_last_not_of(set, std::min(pos, data_len - 1));
 }
 
 unsigned long ustring::find(const std::string& pattern, unsigned long pos) const
@@ -687,17 +687,17 @@ ustring& ustring::trim(const ustring& set) { return trim(set.c_str()); }
 
 int ustring::compare(const ustring& other) const
 {
-    return compare_bytes(*this, other, npos, false);
+    return CompareBytes(*this, other, npos, false);
 }
 
 int ustring::compare(const ustring& other, unsigned long n) const
 {
-    return compare_bytes(*this, other, n, false);
+    return CompareBytes(*this, other, n, false);
 }
 
 int ustring::compare(const ustring& a, const ustring& b, bool ignore_case)
 {
-    return compare_bytes(a, b, npos, ignore_case);
+    return CompareBytes(a, b, npos, ignore_case);
 }
 
 bool operator==(const ustring& a, const ustring& b)
@@ -731,18 +731,18 @@ ustring ustring::normalize(const ustring& src, normalization_form form)
     UErrorCode status = U_ZERO_ERROR;
     const UNormalizer2* normalizer = unorm2_getInstance(nullptr, "nfc", kModeOfForm[form], &status);
     if (U_FAILURE(status) || normalizer == nullptr) {
-        warn("unorm2_getInstance", status, kGetNormalizerWarningLine);
+        Warn("unorm2_getInstance", status, kGetNormalizerWarningLine);
         return result;
     }
 
     const unsigned long length =
-        icu_length(unorm2_normalize(normalizer, src.c_str_utf16(), -1, nullptr, 0, &status));
+        IcuLength(unorm2_normalize(normalizer, src.c_str_utf16(), -1, nullptr, 0, &status));
     result.realloc_wdata(length + 1);
     status = U_ZERO_ERROR;
     unorm2_normalize(normalizer, src.c_str_utf16(), -1, result.wdata,
                      icu_capacity(result.wdata_capacity), &status);
     if (U_FAILURE(status)) {
-        warn("unorm2_normalize", status, kNormalizeWarningLine);
+        Warn("unorm2_normalize", status, kNormalizeWarningLine);
         result.clear();
         return result;
     }
@@ -759,11 +759,11 @@ ustring ustring::normalize(normalization_form form) const
 
 // ---- free functions ----
 
-ustring operator+(const ustring& a, const ustring& b) { return concatenated(a, b); }
-ustring operator+(const ustring& a, const char* b) { return concatenated(a, b); }
-ustring operator+(const ustring& a, char b) { return concatenated(a, b); }
-ustring operator+(const ustring& a, const unsigned short* b) { return concatenated(a, b); }
-ustring operator+(const ustring& a, unsigned short b) { return concatenated(a, b); }
+ustring operator+(const ustring& a, const ustring& b) { return Concatenated(a, b); }
+ustring operator+(const ustring& a, const char* b) { return Concatenated(a, b); }
+ustring operator+(const ustring& a, char b) { return Concatenated(a, b); }
+ustring operator+(const ustring& a, const unsigned short* b) { return Concatenated(a, b); }
+ustring operator+(const ustring& a, unsigned short b) { return Concatenated(a, b); }
 
 void swap(ustring& a, ustring& b)
 {

@@ -41,7 +41,7 @@ unsigned gid = kNoId;
 
 using FreeDeleter = decltype(&free);
 
-int32_t typeFromMode(mode_t mode) {
+int32_t TypeFromMode(mode_t mode) {
     switch (mode & S_IFMT) {
     case S_IFREG: return FILE_TYPE_REGULAR;
     case S_IFDIR: return FILE_TYPE_DIRECTORY;
@@ -54,7 +54,7 @@ int32_t typeFromMode(mode_t mode) {
     }
 }
 
-int32_t typeFromDirentType(unsigned char d_type) {
+int32_t TypeFromDirentType(unsigned char d_type) {
     switch (d_type) {
     case DT_REG: return FILE_TYPE_REGULAR;
     case DT_DIR: return FILE_TYPE_DIRECTORY;
@@ -67,16 +67,16 @@ int32_t typeFromDirentType(unsigned char d_type) {
     }
 }
 
-ustring childPath(const ustring& dir, const ustring& name) {
+ustring ChildPath(const ustring& dir, const ustring& name) {
     return dir + "/" + name;
 }
 
-bool isDotEntry(const ustring& name) {
+bool IsDotEntry(const ustring& name) {
     return name == "." || name == "..";
 }
 
 // Logs why the platform could not resolve a path, naming the step that failed.
-void logResolveFailure(fs_platform::ResolveStep step, int status) {
+void LogResolveFailure(fs_platform::ResolveStep step, int status) {
     if (step == fs_platform::RESOLVE_LOOKUP)
         LOG_MSG(ERROR, "FSPathMakeRef: %d", status);
     else
@@ -85,13 +85,13 @@ void logResolveFailure(fs_platform::ResolveStep step, int status) {
 
 // The exact half of IsFileExist: the path, in NFC, must already be the
 // canonical path. on_disk is the spelling that reached the file.
-bool isCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
+bool IsCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
     LOG_MSG(DEBUG, "Input file path = [%s].", nfc_path.c_str());
     char canonical[fs_platform::kPathBufferSize] = {};
     fs_platform::ResolveStep failed_step;
     const int status = fs_platform::canonical_path(on_disk.c_str(), canonical, &failed_step);
     if (status != 0) {
-        logResolveFailure(failed_step, status);
+        LogResolveFailure(failed_step, status);
         return false;
     }
     const ustring nfc_canonical = ustring(canonical).normalize(ustring::NFC);
@@ -103,7 +103,7 @@ bool isCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
 }
 
 // The record of a file that does not exist yet, as if about to be created.
-void fillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
+void FillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     info.exists = false;
     info.mtime = static_cast<int32_t>(time(nullptr));
     info.path = path;
@@ -114,7 +114,7 @@ void fillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     info.mode = 0;
 }
 
-int openForCopy(const ustring& path, int flags) {
+int OpenForCopy(const ustring& path, int flags) {
     const int fd = open(path.c_str(), flags | O_CLOEXEC, kNewFileMode);
     if (fd < 0)
         LOG_MSG(ERROR, "CopyFile: open(%s): %s (%d)", path.c_str(), strerror(errno), errno);
@@ -123,26 +123,26 @@ int openForCopy(const ustring& path, int flags) {
 
 // Logs a failed write of the copy target. A full device is told apart from
 // other write errors so that callers can say so.
-int reportWriteFailure(int error) {
+int ReportWriteFailure(int error) {
     LOG_MSG(ERROR, "CopyFile: write: %s (%d)", strerror(error), error);
     return error == ENOSPC ? FS_DEVICE_FULL : FS_ERROR;
 }
 
 // Writes all of data, continuing after short writes; FS_OK, FS_ERROR or FS_DEVICE_FULL.
-int writeChunk(int fd, const char* data, ssize_t length) {
+int WriteChunk(int fd, const char* data, ssize_t length) {
     while (length > 0) {
         const ssize_t written = write(fd, data, static_cast<size_t>(length));
         if (written < 0 && errno == EINTR)
             continue;
         if (written < 1)
-            return reportWriteFailure(errno);
+            return ReportWriteFailure(errno);
         data += written;
         length -= written;
     }
     return FS_OK;
 }
 
-ssize_t readChunk(int fd, char* buffer) {
+ssize_t ReadChunk(int fd, char* buffer) {
     ssize_t count;
     do {
         count = read(fd, buffer, kCopyBufferSize);
@@ -151,7 +151,7 @@ ssize_t readChunk(int fd, char* buffer) {
 }
 
 // Copies every byte from src_fd to dst_fd; FS_OK, FS_ERROR or FS_DEVICE_FULL.
-int copyBytes(int src_fd, int dst_fd) {
+int CopyBytes(int src_fd, int dst_fd) {
     std::unique_ptr<char, FreeDeleter> buffer(static_cast<char*>(malloc(kCopyBufferSize)), &free);
     if (!buffer) {
         LOG_MSG(ERROR, "FSCopy: malloc(%d): %s (%d)",
@@ -159,8 +159,8 @@ int copyBytes(int src_fd, int dst_fd) {
         return FS_ERROR;
     }
     ssize_t count;
-    while ((count = readChunk(src_fd, buffer.get())) > 0) {
-        const int status = writeChunk(dst_fd, buffer.get(), count);
+    while ((count = ReadChunk(src_fd, buffer.get())) > 0) {
+        const int status = WriteChunk(dst_fd, buffer.get(), count);
         if (status != FS_OK)
             return status;
     }
@@ -172,7 +172,7 @@ int copyBytes(int src_fd, int dst_fd) {
 }
 
 // Flushes and closes fd; the first failure's errno is kept.
-int syncAndClose(int fd) {
+int SyncAndClose(int fd) {
     const int sync_status = fsync(fd);
     const int sync_errno = errno;
     const int close_status = close(fd);
@@ -185,26 +185,26 @@ int syncAndClose(int fd) {
 
 // Data the device could not take may only show up at the flush; a copy that
 // then counted as done would let FSRename delete the only good source.
-int finishCopyTarget(int dst_fd, int copy_status) {
-    if (syncAndClose(dst_fd) == 0 || copy_status != FS_OK)
+int FinishCopyTarget(int dst_fd, int copy_status) {
+    if (SyncAndClose(dst_fd) == 0 || copy_status != FS_OK)
         return copy_status;
-    return reportWriteFailure(errno);
+    return ReportWriteFailure(errno);
 }
 
 // Removes one file, link or empty folder as a step of a move or delete.
-int removeEntry(const ustring& path) {
+int RemoveEntry(const ustring& path) {
     return remove(path.c_str()) == 0 ? FS_OK : FS_STEP_FAILED;
 }
 
-int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact);
+int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact);
 
 // The EXDEV fallback of FSRename. Links, devices and other special files
 // cannot be carried over by copying and are left where they are.
-int moveAcrossDevices(const ustring& src, const ustring& dst, int32_t type, bool exact) {
+int MoveAcrossDevices(const ustring& src, const ustring& dst, int32_t type, bool exact) {
     if (type == FILE_TYPE_REGULAR)
         return FSCopy(src, dst, true) < 0 ? FS_STEP_FAILED : FS_OK;
     if (type == FILE_TYPE_DIRECTORY)
-        return moveFolderAcrossDevices(src, dst, exact);
+        return MoveFolderAcrossDevices(src, dst, exact);
     return FS_OK;
 }
 
@@ -213,14 +213,14 @@ enum class WalkOutcome { NotOpened, Stopped, Finished };
 // Calls visit with the name of every entry of dir but "." and "..", depth
 // first through the caller's recursion, until visit returns nonzero. A read
 // error ends the walk as if the folder were exhausted.
-WalkOutcome forEachChild(const ustring& dir, const std::function<int(const ustring&)>& visit) {
+WalkOutcome ForEachChild(const ustring& dir, const std::function<int(const ustring&)>& visit) {
     DIR_HANDLE handle;
     if (FSOpenDir(dir, 0, handle) != FS_OK)
         return WalkOutcome::NotOpened;
     WalkOutcome outcome = WalkOutcome::Finished;
     DIR_ENTRY entry;
     while (FSReadDir(handle, entry) == FS_DIR_ENTRY) {
-        if (isDotEntry(entry.name))
+        if (IsDotEntry(entry.name))
             continue;
         if (visit(entry.name) != FS_OK) {
             outcome = WalkOutcome::Stopped;
@@ -231,20 +231,20 @@ WalkOutcome forEachChild(const ustring& dir, const std::function<int(const ustri
     return outcome;
 }
 
-int moveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact) {
+int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact) {
     if (FSMKDir(dst, true) != FS_OK)
         return FS_STEP_FAILED;
-    const WalkOutcome outcome = forEachChild(src, [&](const ustring& name) {
-        return FSRename(childPath(src, name), childPath(dst, name), exact);
+    const WalkOutcome outcome = ForEachChild(src, [&](const ustring& name) {
+        return FSRename(ChildPath(src, name), ChildPath(dst, name), exact);
     });
     if (outcome != WalkOutcome::Finished)
         return FS_STEP_FAILED;
-    return removeEntry(src);
+    return RemoveEntry(src);
 }
 
 // Gives a folder made by FSMKDirP to the configured owner; nothing to do
 // while no owner was configured.
-void giveToConfiguredOwner(const char* path) {
+void GiveToConfiguredOwner(const char* path) {
     if (uid == kNoId && gid == kNoId)
         return;
     const uid_t owner = uid == kNoId ? geteuid() : uid;
@@ -254,7 +254,7 @@ void giveToConfiguredOwner(const char* path) {
 }
 
 // Makes prefix a folder if it is not one; 0, or -1 with errno set.
-int ensureFolder(const char* prefix, bool is_last, bool replace_non_dirs, mode_t mode) {
+int EnsureFolder(const char* prefix, bool is_last, bool replace_non_dirs, mode_t mode) {
     struct stat st;
     if (stat(prefix, &st) == 0) {
         if (S_ISDIR(st.st_mode))
@@ -268,21 +268,21 @@ int ensureFolder(const char* prefix, bool is_last, bool replace_non_dirs, mode_t
     }
     if (mkdir(prefix, mode) != 0)
         return -1;
-    giveToConfiguredOwner(prefix);
+    GiveToConfiguredOwner(prefix);
     return 0;
 }
 
 // Walks text component by component, cutting it after each one in turn.
 // *end receives the offset of the character that ended the last component
 // handled.
-int makeEachFolder(char* text, bool replace_non_dirs, mode_t mode, size_t* end) {
+int MakeEachFolder(char* text, bool replace_non_dirs, mode_t mode, size_t* end) {
     size_t start = text[0] == '/' ? 1 : 0;
     for (;;) {
         const size_t cut = start + strcspn(text + start, "/");
         const bool is_last = text[cut] == '\0' || text[cut + 1] == '\0';
         const char saved = text[cut];
         text[cut] = '\0';
-        const int status = ensureFolder(text, is_last, replace_non_dirs, mode);
+        const int status = EnsureFolder(text, is_last, replace_non_dirs, mode);
         text[cut] = saved;
         *end = cut;
         if (status != 0)
@@ -329,7 +329,7 @@ bool IsFileExist(const ustring& path, bool exact) {
             return false;
         spelling = &path;
     }
-    return !exact || isCanonicalSpelling(*spelling, nfc_path);
+    return !exact || IsCanonicalSpelling(*spelling, nfc_path);
 }
 
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
@@ -337,7 +337,7 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     if (lstat(path.c_str(), &st) != 0) {
         if (errno != ENOENT)
             return FS_ERROR;
-        fillMissingFileInfo(path, info);
+        FillMissingFileInfo(path, info);
         return FS_OK;
     }
     info.exists = true;
@@ -347,7 +347,7 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     info.uid = st.st_uid;
     info.gid = st.st_gid;
     info.mode = st.st_mode & kStatModeBits;
-    const int32_t type = typeFromMode(st.st_mode);
+    const int32_t type = TypeFromMode(st.st_mode);
     if (type < 0)
         return FS_ERROR;
     info.type = type;
@@ -378,15 +378,15 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact) {
 }
 
 int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
-    const int src_fd = openForCopy(src, O_RDONLY);
+    const int src_fd = OpenForCopy(src, O_RDONLY);
     if (src_fd < 0)
         return FS_ERROR;
-    const int dst_fd = openForCopy(dst, O_WRONLY | O_CREAT | O_TRUNC);
+    const int dst_fd = OpenForCopy(dst, O_WRONLY | O_CREAT | O_TRUNC);
     if (dst_fd < 0) {
         close(src_fd);
         return FS_ERROR;
     }
-    const int status = finishCopyTarget(dst_fd, copyBytes(src_fd, dst_fd));
+    const int status = FinishCopyTarget(dst_fd, CopyBytes(src_fd, dst_fd));
     // Read-only descriptor: closing it cannot lose data.
     close(src_fd);
     if (status != FS_OK || !remove_src)
@@ -404,7 +404,7 @@ int FSRename(const ustring& src, const ustring& dst, bool exact) {
         return FS_OK;
     const int error = errno;
     if (error == EXDEV)
-        return moveAcrossDevices(src, dst, info.type, exact);
+        return MoveAcrossDevices(src, dst, info.type, exact);
     LOG_MSG(ERROR, "FSRename: rename(%s, %s): %s (%d)",
             src.c_str(), dst.c_str(), strerror(error), error);
     return error == ENAMETOOLONG ? FS_NAME_TOO_LONG : FS_STEP_FAILED;
@@ -447,7 +447,7 @@ int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigne
     const mode_t saved_umask = explicit_mode ? umask(0) : 0;
     size_t end = 0;
     const mode_t folder_mode = explicit_mode ? mode : kDefaultFolderMode;
-    const int status = makeEachFolder(text.get(), replace_non_dirs, folder_mode, &end);
+    const int status = MakeEachFolder(text.get(), replace_non_dirs, folder_mode, &end);
     const int saved_errno = errno;
     if (explicit_mode)
         umask(saved_umask);
@@ -467,14 +467,14 @@ int FSRemove(const ustring& path, bool) {
         return FS_OK;
     // lstat typed a link as a link, so it is removed itself, never followed.
     if (info.type != FILE_TYPE_DIRECTORY)
-        return removeEntry(path);
+        return RemoveEntry(path);
     const WalkOutcome outcome =
-        forEachChild(path, [&](const ustring& name) { return FSRemove(childPath(path, name), false); });
+        ForEachChild(path, [&](const ustring& name) { return FSRemove(ChildPath(path, name), false); });
     if (outcome == WalkOutcome::NotOpened)
         return FS_OK;
     if (outcome == WalkOutcome::Stopped)
         return FS_STEP_FAILED;
-    return removeEntry(path);
+    return RemoveEntry(path);
 }
 
 int FSMktemp(const ustring& dir, ustring& out) {
@@ -491,7 +491,7 @@ int FSMktemp(const ustring& dir, ustring& out) {
         LOG_MSG(ERROR, "mkstemp(%s): %s", name_template.c_str(), strerror(errno));
         return FS_ERROR;
     }
-    if (syncAndClose(fd) != 0)
+    if (SyncAndClose(fd) != 0)
         LOG_MSG(WARNING, "fsync(%s): %s", name, strerror(errno));
     out = name;
     if (chmod(name, kTempFileMode) != 0)
@@ -536,7 +536,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     // An entry that vanishes before it is examined keeps time and size 0.
     _FILE_INFO_tag info;
     if (handle.flags & FS_DIR_WITH_INFO) {
-        const ustring full_path = childPath(handle.path, next->d_name);
+        const ustring full_path = ChildPath(handle.path, next->d_name);
         if (FSStat(full_path, info, true) < FS_OK) {
             LOG_MSG(ERROR, "FSOpenDir: Failed to get info for '%s'", full_path.c_str());
             return FS_ERROR;
@@ -545,7 +545,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     entry.mtime = info.mtime;
     entry.size = info.size;
     entry.name = next->d_name;
-    entry.type = typeFromDirentType(next->d_type);
+    entry.type = TypeFromDirentType(next->d_type);
     return FS_DIR_ENTRY;
 }
 

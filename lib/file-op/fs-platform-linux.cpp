@@ -27,7 +27,7 @@ const MagicName kKnownFileSystems[] = {
     {MSDOS_SUPER_MAGIC, "msdos"},
 };
 
-const char* nameOfMagic(unsigned long magic) {
+const char* NameOfMagic(unsigned long magic) {
     for (const MagicName& known : kKnownFileSystems) {
         if (known.magic == magic)
             return known.name;
@@ -51,7 +51,7 @@ int type_name(const char* path, std::string* name) {
     if (statfs(path, &info) != 0)
         return -1;
     // f_type is signed on some architectures; magic numbers are 32-bit.
-    *name = nameOfMagic(static_cast<unsigned long>(info.f_type) & 0xFFFFFFFFUL);
+    *name = NameOfMagic(static_cast<unsigned long>(info.f_type) & 0xFFFFFFFFUL);
     return 0;
 }
 

@@ -7,48 +7,23 @@
 #include <cstdio>
 #include <ctime>
 
+#include "cancel-safe-lock.h"
 #include "config.h"
 
 namespace {
 
 // Components without an entry of their own let errors and warnings through.
-const int32_t DEFAULT_THRESHOLD = Logger::LEVEL_WARNING;
-const char DEFAULT_COMPONENT[] = "default_component";
+const int32_t kDefaultThreshold = Logger::LEVEL_WARNING;
+const char kDefaultComponent[] = "default_component";
 // The file is rotated once it holds more than this many bytes.
-const int64_t MAX_LOG_SIZE = 1024 * 1024;
-const std::size_t TIMESTAMP_SIZE = 512;
-const char TIMESTAMP_FORMAT[] = "%b %d %H:%M:%S ";
-const std::size_t ROTATED_NAME_SIZE = 1024;
-
-// Holds a mutex with thread cancellation disabled, so that a thread cancelled
-// while logging cannot leave the lock taken.
-class CancelSafeLock {
-public:
-    explicit CancelSafeLock(pthread_mutex_t* mutex) : mutex_(mutex)
-    {
-        pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &old_state_);
-        locked_ = pthread_mutex_lock(mutex_) == 0;
-    }
-    ~CancelSafeLock()
-    {
-        if (locked_)
-            pthread_mutex_unlock(mutex_);
-        pthread_setcancelstate(old_state_, nullptr);
-    }
-    CancelSafeLock(const CancelSafeLock&) = delete;
-    CancelSafeLock& operator=(const CancelSafeLock&) = delete;
-
-    bool locked() const { return locked_; }
-
-private:
-    pthread_mutex_t* mutex_;
-    int old_state_ = PTHREAD_CANCEL_ENABLE;
-    bool locked_ = false;
-};
+const int64_t kMaxLogSize = 1024 * 1024;
+const std::size_t kTimestampSize = 512;
+const char kTimestampFormat[] = "%b %d %H:%M:%S ";
+const std::size_t kRotatedNameSize = 1024;
 
 // The console streams belong to the process; only a log file is ours to close.
 // A failing close has nowhere to be reported.
-void close_if_owned(FILE* stream)
+void CloseIfOwned(FILE* stream)
 {
     if (stream != nullptr && stream != stdout && stream != stderr)
         (void)fclose(stream);
@@ -56,7 +31,7 @@ void close_if_owned(FILE* stream)
 
 // Opened close-on-exec: a program the launcher starts must not keep the log
 // open, nor anything that waits for the launcher's descriptors to close.
-FILE* open_for_appending(const char* path)
+FILE* OpenForAppending(const char* path)
 {
     const int fd = open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
     if (fd < 0)
@@ -68,16 +43,16 @@ FILE* open_for_appending(const char* path)
 }
 
 // An overlong name is truncated rather than overflowing the buffer.
-void format_rotated_name(char (&name)[ROTATED_NAME_SIZE], const char* live_path, int index)
+void FormatRotatedName(char (&name)[kRotatedNameSize], const char* live_path, int index)
 {
     (void)snprintf(name, sizeof name, "%s_%d", live_path, index);
 }
 
-void format_timestamp(char (&stamp)[TIMESTAMP_SIZE])
+void FormatTimestamp(char (&stamp)[kTimestampSize])
 {
     const time_t now = time(nullptr);
     struct tm local;
-    if (localtime_r(&now, &local) == nullptr || strftime(stamp, sizeof stamp, TIMESTAMP_FORMAT, &local) == 0)
+    if (localtime_r(&now, &local) == nullptr || strftime(stamp, sizeof stamp, kTimestampFormat, &local) == 0)
         stamp[0] = '\0';
 }
 
@@ -93,7 +68,7 @@ ustring Logger::log_path;
 
 int Logger::Initialize(Type type, const ustring& path, const ustring& level_file, int rotation_slots)
 {
-    log_level[DEFAULT_COMPONENT] = DEFAULT_THRESHOLD;
+    log_level[kDefaultComponent] = kDefaultThreshold;
     load_levels(level_file);
     log_type = type;
     switch (type) {
@@ -141,26 +116,26 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
 
 int Logger::Rotate()
 {
-    char from[ROTATED_NAME_SIZE];
-    char to[ROTATED_NAME_SIZE];
+    char from[kRotatedNameSize];
+    char to[kRotatedNameSize];
     const char* live_path = log_path.c_str_utf8();
 
     // Older files move up one slot; gaps in the sequence are simply skipped.
     for (int i = rotate_cnt - 2; i >= 0; --i) {
-        format_rotated_name(from, live_path, i);
-        format_rotated_name(to, live_path, i + 1);
+        FormatRotatedName(from, live_path, i);
+        FormatRotatedName(to, live_path, i + 1);
         (void)rename(from, to);
     }
     // The last slot has just received the oldest file, which is dropped.
-    format_rotated_name(to, live_path, rotate_cnt - 1);
+    FormatRotatedName(to, live_path, rotate_cnt - 1);
     (void)remove(to);
 
-    close_if_owned(log_fp);
+    CloseIfOwned(log_fp);
     log_fp = nullptr;
-    format_rotated_name(to, live_path, 0);
+    FormatRotatedName(to, live_path, 0);
     if (rename(live_path, to) != 0)
         return -1;
-    log_fp = open_for_appending(live_path);
+    log_fp = OpenForAppending(live_path);
     return log_fp != nullptr ? 0 : -1;
 }
 
@@ -178,13 +153,13 @@ void Logger::load_levels(const ustring& level_file)
 int Logger::threshold_of(const ustring& component)
 {
     const auto found = log_level.find(component);
-    return found != log_level.end() ? found->second : DEFAULT_THRESHOLD;
+    return found != log_level.end() ? found->second : kDefaultThreshold;
 }
 
 void Logger::use_stream(FILE* stream)
 {
     if (stream != log_fp)
-        close_if_owned(log_fp);
+        CloseIfOwned(log_fp);
     log_fp = stream;
     log_path = "";
     log_size = -1;
@@ -196,10 +171,10 @@ int Logger::open_file(const ustring& path, int rotation_slots)
 {
     if (path.empty())
         return -1;
-    FILE* stream = open_for_appending(path.c_str_utf8());
+    FILE* stream = OpenForAppending(path.c_str_utf8());
     if (stream == nullptr)
         return -1;
-    close_if_owned(log_fp);
+    CloseIfOwned(log_fp);
     log_fp = stream;
     log_size = 0;
     log_path = path;
@@ -227,8 +202,8 @@ int64_t Logger::write_message(const char* format, va_list args)
 // message is left out of the size count.
 int64_t Logger::write_stamped(const char* format, va_list args)
 {
-    char stamp[TIMESTAMP_SIZE];
-    format_timestamp(stamp);
+    char stamp[kTimestampSize];
+    FormatTimestamp(stamp);
     const int stamp_written = fprintf(log_fp, "%s", stamp);
     const int message_written = vfprintf(log_fp, format, args);
     // A failed flush shows up as a failed write of a later message.
@@ -243,7 +218,7 @@ void Logger::account_written(int64_t written)
     if (log_type != TYPE_FILE || log_size < 0 || written < 0)
         return;
     const int64_t total = log_size + written;
-    if (total <= MAX_LOG_SIZE) {
+    if (total <= kMaxLogSize) {
         log_size = static_cast<int32_t>(total);
         return;
     }

@@ -12,12 +12,12 @@
 
 namespace {
 
-const int NAME_LENGTH = 8;
-const int BITS_PER_CHAR = 6;
-const unsigned CHAR_MASK = 0x3f;
+const int kNameLength = 8;
+const int kBitsPerChar = 6;
+const unsigned kCharMask = 0x3f;
 
 // Used only when a key text is empty, which the clock-based key never is.
-void fill_key_from_clock(unsigned char* key)
+void FillKeyFromClock(unsigned char* key)
 {
     srand(static_cast<unsigned>(time(nullptr)));
     for (int i = 0; i < TmpNameGen::KEY_SIZE; ++i)
@@ -53,7 +53,7 @@ TmpNameGen::~TmpNameGen() {}
 ustring TmpNameGen::getTmpName()
 {
     static const char map[] = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
-    char name[NAME_LENGTH + 1];
+    char name[kNameLength + 1];
 
     // A default mutex cannot fail to lock short of memory corruption; the
     // name is made either way so that callers always get one.
@@ -67,9 +67,9 @@ ustring TmpNameGen::getTmpName()
     if (locked)
         pthread_mutex_unlock(&m_lock);
 
-    for (int i = NAME_LENGTH - 1; i >= 0; --i, bits >>= BITS_PER_CHAR)
-        name[i] = map[bits & CHAR_MASK];
-    name[NAME_LENGTH] = '\0';
+    for (int i = kNameLength - 1; i >= 0; --i, bits >>= kBitsPerChar)
+        name[i] = map[bits & kCharMask];
+    name[kNameLength] = '\0';
     return ustring(name);
 }
 
@@ -93,7 +93,7 @@ void TmpNameGen::rc4_init(unsigned char* state, unsigned char* key)
 {
     std::iota(state, state + STATE_SIZE, 0);
     if (key[0] == 0)
-        fill_key_from_clock(key);
+        FillKeyFromClock(key);
     unsigned char j = 0;
     for (int i = 0; i < STATE_SIZE; ++i) {
         j = static_cast<unsigned char>(j + state[i] + key[i]);

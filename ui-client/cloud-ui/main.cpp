@@ -12,13 +12,13 @@
 
 namespace {
 
-QString pidFilePath()
+QString PidFilePath()
 {
     return QDir::homePath() + "/" + layout::kUserFolder + "/" + layout::kPidFile;
 }
 
 // The executable sits in Contents/MacOS, two folders below the bundle.
-QString bundleVersionFile()
+QString BundleVersionFile()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../../" + layout::kResourcesFolder + "/" +
                            layout::kVersionFileName);
@@ -35,11 +35,11 @@ int main(int argc, char** argv)
         qWarning("cloud-ui: cannot watch for SIGTERM; the launcher will have to kill this client");
     QObject::connect(&term_watcher, &TermSignalWatcher::terminationRequested, &app, &QCoreApplication::quit);
 
-    PidFile pid_file(pidFilePath());
+    PidFile pid_file(PidFilePath());
     if (!pid_file.write())
-        qWarning("cloud-ui: cannot write %s", qPrintable(pidFilePath()));
+        qWarning("cloud-ui: cannot write %s", qPrintable(PidFilePath()));
 
-    ClientWindow window(bundleVersionFile());
+    ClientWindow window(BundleVersionFile());
     window.show();
     return app.exec();
 }

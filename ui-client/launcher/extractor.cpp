@@ -27,14 +27,9 @@ const size_t kReadBlockSize = 10240;
 const int kDiskWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
-struct ReaderFree {
-    void operator()(archive* reader) const { archive_read_free(reader); }
-};
-struct WriterFree {
-    void operator()(archive* writer) const { archive_write_free(writer); }
-};
-using ReadHandle = std::unique_ptr<archive, ReaderFree>;
-using WriteHandle = std::unique_ptr<archive, WriterFree>;
+// Every handle is freed on every way out.
+using ReadHandle = std::unique_ptr<archive, decltype(&archive_read_free)>;
+using WriteHandle = std::unique_ptr<archive, decltype(&archive_write_free)>;
 
 // The library leaves the text unset when the failure came from elsewhere.
 const char* ErrorText(archive* handle)
@@ -57,16 +52,16 @@ ReadHandle OpenEntryWalk(const ustring& archive_path, const ustring& dest_path)
 {
     if (archive_path.empty() || dest_path.empty()) {
         LOG_MSG(ERROR, "Invalid argument");
-        return nullptr;
+        return ReadHandle(nullptr, archive_read_free);
     }
-    ReadHandle reader(archive_read_new());
+    ReadHandle reader(archive_read_new(), archive_read_free);
     if (!reader) {
         LOG_MSG(ERROR, "Allocate archive failed");
-        return nullptr;
+        return ReadHandle(nullptr, archive_read_free);
     }
     if (OpenForReading(reader.get(), archive_path) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'", ErrorText(reader.get()));
-        return nullptr;
+        return ReadHandle(nullptr, archive_read_free);
     }
     return reader;
 }
@@ -154,8 +149,8 @@ int Extractor::Extract()
         return -1;
     }
 
-    ReadHandle reader(archive_read_new());
-    WriteHandle writer(archive_write_disk_new());
+    ReadHandle reader(archive_read_new(), archive_read_free);
+    WriteHandle writer(archive_write_disk_new(), archive_write_free);
     // Setting options only fails on a broken handle, so it counts as allocation.
     if (!reader || !writer ||
         archive_write_disk_set_options(writer.get(), kDiskWriteOptions) != ARCHIVE_OK) {
