@@ -11,10 +11,7 @@ set -euo pipefail
 ROOT="$(cd "$(dirname "$0")/.." && pwd)"
 BUILD="${DROVIA_BUILD_DIR:-$ROOT/build}"
 
-"$ROOT/scripts/install-deps.sh"
-cmake -S "$ROOT" -B "$BUILD" -G Ninja > /dev/null
-# Only the bundle: the demo needs neither the tests nor their build time.
-cmake --build "$BUILD" --target drovia_bundle -j "$(nproc)"
+"$ROOT/scripts/build-bundle.sh"
 
 DEMO="$BUILD/demo"
 DEMO_HOME="$BUILD/demo-home"
