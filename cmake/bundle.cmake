@@ -67,3 +67,5 @@ install(FILES ${bundle_info} DESTINATION ${bundle_name}/Contents/Resources)
 install(FILES ${bundle_icon} DESTINATION ${bundle_name}/Contents/Resources/images)
 install(FILES ${bundle_package} DESTINATION ${bundle_name}/Contents/Resources/package)
 install(FILES ${plugin_sources} DESTINATION ${bundle_name}/Contents/Frameworks/plugins/platforms)
+
+include(${CMAKE_CURRENT_LIST_DIR}/deb-package.cmake)

@@ -12,10 +12,7 @@ set -euo pipefail
 ROOT="$(cd "$(dirname "$0")/.." && pwd)"
 BUILD="${DROVIA_BUILD_DIR:-$ROOT/build}"
 
-"$ROOT/scripts/install-deps.sh"
-cmake -S "$ROOT" -B "$BUILD" -G Ninja > /dev/null
-# Only the bundle: the demo needs neither the tests nor their build time.
-cmake --build "$BUILD" --target drovia_bundle -j "$(nproc)"
+"$ROOT/scripts/build-bundle.sh"
 
 DEMO="$BUILD/demo"
 DEMO_HOME="$BUILD/demo-home"
@@ -106,15 +103,9 @@ run_launcher() {
     fi
 }
 
-# The next build: the staged per-user bundle with a raised build number,
-# packed into the demo bundle, whose own version file says the same.
+# The next build: the same binaries, packed again with a raised build number.
 bump_build() {
-    local next=$(($(build_of "$BUNDLE/Contents/Resources/INFO") + 1))
-    rm -rf "$DEMO/stage"
-    cp -a "$BUILD/package-stage/Drovia.app" "$DEMO/stage"
-    sed -i "s/^build_version=.*/build_version=$next/" \
-        "$DEMO/stage/Contents/Resources/INFO" "$BUNDLE/Contents/Resources/INFO"
-    "$ROOT/scripts/make-package.sh" "$DEMO/stage" "$BUNDLE/Contents/Resources/package/drovia.vpk"
+    "$ROOT/scripts/set-build-number.sh" "$BUNDLE" $(($(build_of "$BUNDLE/Contents/Resources/INFO") + 1))
 }
 
 stop_demo_client
