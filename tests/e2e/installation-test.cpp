@@ -101,7 +101,8 @@ TEST_F(Installation, EveryInterruptionConvergesOnTheNextRun)
     std::mt19937 random(20261123);
     for (int kill = 0; kill < Repetitions(3, 200); ++kill) {
         const qint64 delay = random() % (run_length + 1);
-        moments.push_back({"after " + std::to_string(delay) + " ms", [&, delay] { return since_start.elapsed() >= delay; }});
+        const std::string stage = "kill " + std::to_string(kill) + " after " + std::to_string(delay) + " ms";
+        moments.push_back({stage, [&, delay] { return since_start.elapsed() >= delay; }});
     }
 
     for (const Moment& moment : moments) {
