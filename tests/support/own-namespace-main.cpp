@@ -27,27 +27,31 @@ int StatusOf(pid_t child)
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1;
 }
 
-// Returns in the process that runs the test; the others exit with its status.
+// Returns in the process that runs the test; the others end with its status,
+// through _exit: once the namespace's first process is gone, the one outside
+// can start no other, not even a leak checker's helper.
 void EnterOwnNamespace()
 {
-    if (unshare(CLONE_NEWPID | CLONE_NEWNS) != 0)
+    if (unshare(CLONE_NEWPID) != 0)
         return;
     const pid_t first = fork();
     if (first != 0)
-        exit(first < 0 ? 1 : StatusOf(first));
+        _exit(first < 0 ? 1 : StatusOf(first));
     prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test killed for its time-out takes the namespace along
-    const bool own_proc = mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+    // The mounts are the namespace's own: the process outside keeps its /proc.
+    const bool own_proc = unshare(CLONE_NEWNS) == 0 &&
+                          mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                           mount("proc", "/proc", "proc", MS_NOSUID | MS_NODEV | MS_NOEXEC, nullptr) == 0;
     const pid_t test = own_proc ? fork() : -1;
     if (test < 0)
-        exit(1);
+        _exit(1);
     if (test > 0) {
         // Reaps orphans, such as the clients the launcher starts, until the test ends.
         pid_t ended;
         int status = 0;
         while ((ended = wait(&status)) != test && (ended > 0 || errno == EINTR)) {
         }
-        exit(ended == test && WIFEXITED(status) ? WEXITSTATUS(status) : 1);
+        _exit(ended == test && WIFEXITED(status) ? WEXITSTATUS(status) : 1);
     }
     own_namespace = true;
 }

@@ -82,11 +82,6 @@ void LauncherSandbox::InstallForUser(const std::vector<PackageEntry>& entries)
     ASSERT_TRUE(WriteEntries(UserPath(layout::kBundleName), entries));
 }
 
-void LauncherSandbox::CopyBundleTo(const QString& copy) const
-{
-    ASSERT_TRUE(CopyTree(bundle, copy));
-}
-
 void LauncherSandbox::MoveToNewHome(const QString& name)
 {
     home = sandbox.filePath(name);

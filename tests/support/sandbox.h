@@ -31,7 +31,6 @@ protected:
     void Ship(int build, const std::string& package);  // into the bundle, with its version file
     void Ship(int build) { Ship(build, MakeArchive(ClientBundle(build))); }
     void InstallForUser(const std::vector<PackageEntry>& entries);
-    void CopyBundleTo(const QString& copy) const;
     void MoveToNewHome(const QString& name);
 
     QProcessEnvironment Environment() const;
