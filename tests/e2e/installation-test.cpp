@@ -75,7 +75,7 @@ TEST_F(Installation, TwoBundleCopiesTogetherEndWithOneInstallationAndOneClient)
 TEST_F(Installation, EveryInterruptionConvergesOnTheNextRun)
 {
     // Kills when the file system shows a stage, so that they land in each
-    // whatever the load; the old client takes a second to stop where that
+    // whatever the load; the old client takes two seconds to stop where that
     // stage is aimed at.
     struct Moment {
         std::string stage;

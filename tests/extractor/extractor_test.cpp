@@ -49,6 +49,12 @@ TEST(Extractor, UnpacksEveryFormatReportingEachEntryUntilTheFirstBadOne)
     four.push_back({"C/4", "4"});
     std::string damaged = MakeArchive(four, ARCHIVE_FORMAT_TAR_USTAR);
     damaged[damaged.rfind("C/4")] ^= 0x20;  // the fourth header fails its checksum
+    // A zip entry flagged as UTF-8 whose name is none: reading it only warns.
+    std::vector<PackageEntry> accented = three;
+    accented.push_back({"C/\xc3\xa9", "4"});
+    std::string not_utf8 = MakeArchive(accented);
+    for (size_t at = not_utf8.find("C/\xc3\xa9"); at != std::string::npos; at = not_utf8.find("C/\xc3\xa9", at))
+        not_utf8.replace(at + 2, 2, "\xff\xfe");
     const struct {
         const char* name;
         std::string bytes;
@@ -61,6 +67,7 @@ TEST(Extractor, UnpacksEveryFormatReportingEachEntryUntilTheFirstBadOne)
         {"tar.xz", MakeArchive(three, ARCHIVE_FORMAT_TAR_USTAR, ARCHIVE_FILTER_XZ), 0, 3, 3},
         {"tar.zst", MakeArchive(three, ARCHIVE_FORMAT_TAR_GNUTAR, ARCHIVE_FILTER_ZSTD), 0, 3, 3},
         {"bad fourth header", damaged, -1, 3, 3},
+        {"fourth name no UTF-8", not_utf8, -1, 3, 3},
         {"no entries", MakeArchive({}, ARCHIVE_FORMAT_TAR_USTAR), -1, 0, 0},
         {"no archive", "", -1, 0, 0},
     };

@@ -76,18 +76,22 @@ std::string RunLauncher(Outcome outcome)
     auto* worker = new TestWorker(outcome);
     auto* launcher = new TestLauncher(worker);
     int shown = 0;
+    int labels = 0;
     // Queued behind the launcher's own slot, which shows the dialog.
     QObject::connect(worker, &Worker::sigShowMsg, launcher, [&] {
         ++shown;
         if (outcome.slow)
             Dialog()->close();
     }, Qt::QueuedConnection);
+    QObject::connect(worker, &Worker::sigSetLabelText, [&] { ++labels; });
     QTimer::singleShot(10000, [] { QCoreApplication::exit(1); });
     launcher->Run();
     launcher->Start();
     EXPECT_EQ(QApplication::exec(), 0) << "never quit";
     EXPECT_EQ(shown, outcome.upgrade ? 1 : 0);
+    EXPECT_FALSE(Dialog()->isVisible());
     delete launcher;  // must wait for the work to end before destroying the service
+    EXPECT_EQ(labels, outcome.upgrade && outcome.result == 0 ? 1 : 0) << "the ready text";
 
     QFile log(kLog);
     EXPECT_TRUE(log.open(QIODevice::ReadOnly) && log.seek(start));

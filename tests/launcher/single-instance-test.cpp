@@ -11,19 +11,20 @@ namespace {
 const int kTimeoutMs = 10000;
 
 // The guard's id comes from the executable's path, so each "bundle" holds its
-// own copy of the probe. Its lock lives where only its user can write: a file
-// planted in the shared temporary folder under the name a lock there would
-// have must not stop it.
+// own copy of the probe. Files of the lock's name planted beforehand, empty as
+// a copy killed while it created its lock would leave one, stop nothing: not
+// in the shared temporary folder, nor in the folder where the lock lives.
 TEST(SingleInstance, OnlyTheSameBundlePathSeesALiveHolder)
 {
     QTemporaryDir sandbox;
+    for (const QString folder : {"a", "b", ".Drovia"})
+        ASSERT_TRUE(QDir(sandbox.path()).mkdir(folder));
     for (const QString folder : {"a", "b"})
-        ASSERT_TRUE(QDir(sandbox.path()).mkdir(folder) &&
-                    QFile::copy(SINGLE_INSTANCE_PROBE, sandbox.filePath(folder + "/probe")));
-    const QString planted_name =
-        QCryptographicHash::hash((sandbox.filePath("a/probe") + "\n" + QString::number(getuid())).toUtf8(),
-                                 QCryptographicHash::Sha1).toHex();
-    ASSERT_TRUE(QFile(sandbox.filePath("qtsingleapp-probe-" + planted_name + ".lock")).open(QIODevice::WriteOnly));
+        ASSERT_TRUE(QFile::copy(SINGLE_INSTANCE_PROBE, sandbox.filePath(folder + "/probe")));
+    const QByteArray id = (sandbox.filePath("a/probe") + "\n" + QString::number(getuid())).toUtf8();
+    const QString lock_name = "qtsingleapp-probe-" + QCryptographicHash::hash(id, QCryptographicHash::Sha1).toHex() + ".lock";
+    for (const QString folder : {"", ".Drovia/"})
+        ASSERT_TRUE(QFile(sandbox.filePath(folder + lock_name)).open(QIODevice::WriteOnly));
 
     const auto start = [&](QProcess& probe, const QString& folder, const QStringList& arguments = {}) {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();

@@ -66,8 +66,11 @@ std::string MakeArchive(const std::vector<PackageEntry>& entries, int format, in
 {
     std::string bytes;
     std::unique_ptr<archive, decltype(&archive_write_free)> writer(archive_write_new(), archive_write_free);
-    // No padding after the data: the zstd reader would take it for a frame.
+    // Names flagged as UTF-8 in a zip, as bsdtar writes them; no padding after
+    // the data, which the zstd reader would take for a frame.
     bool written = archive_write_set_format(writer.get(), format) == ARCHIVE_OK &&
+                   (format != ARCHIVE_FORMAT_ZIP ||
+                    archive_write_set_format_option(writer.get(), "zip", "hdrcharset", "UTF-8") == ARCHIVE_OK) &&
                    archive_write_add_filter(writer.get(), filter) == ARCHIVE_OK &&
                    archive_write_set_bytes_in_last_block(writer.get(), 1) == ARCHIVE_OK &&
                    archive_write_open(writer.get(), &bytes, nullptr, AppendToString, nullptr) == ARCHIVE_OK;

@@ -4,7 +4,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QThread>
 
 #include "files.h"
@@ -188,10 +187,12 @@ int LauncherSandbox::LastStartedPid() const
     return lines.isEmpty() ? 0 : lines.last().section(' ', 1, 1).toInt();
 }
 
+// Read as text: the settings reader keeps what it read of a path, and a
+// rewrite of the same size within the same moment can escape it.
 QString LauncherSandbox::InstalledBuild() const
 {
     const QString version_file = UserPath(layout::kBundleName) + "/" + layout::kResourcesFolder + "/INFO";
-    return QSettings(version_file, QSettings::IniFormat).value("Version/build_version").toString();
+    return QString::fromStdString(ReadBytes(version_file)).section("build_version=", 1).section('\n', 0, 0);
 }
 
 QStringList LauncherSandbox::Backups() const

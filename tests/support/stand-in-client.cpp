@@ -2,7 +2,7 @@
 // recognised by the launcher as the client. It appends "<build> <pid>" to
 // ~/.Drovia/started, writes its pid file as the demo client does and runs
 // until SIGTERM, or, with DROVIA_STAND_IN=ignore-term, ignores it, or with
-// slow-exit leaves a second later. It never runs longer than a minute.
+// slow-exit leaves two seconds later. It never runs longer than a minute.
 #include <signal.h>
 #include <unistd.h>
 
@@ -49,6 +49,6 @@ int main(int, char** argv)
     while (sigtimedwait(&term, nullptr, &lifetime) == SIGTERM && behaviour == "ignore-term") {
     }
     if (behaviour == "slow-exit")
-        sleep(1);
+        sleep(2);
     return 0;
 }

@@ -19,7 +19,8 @@ int main(int argc, char** argv)
     QTemporaryDir scratch;
     LogCapture::path = scratch.filePath("test.log");
     const QString levels = scratch.filePath("levels");
-    const bool ready = qputenv("HOME", scratch.path().toUtf8()) &&
+    // The C locale whatever the caller's, as a user's may be.
+    const bool ready = qputenv("HOME", scratch.path().toUtf8()) && qputenv("LC_ALL", "C") &&
                        WriteBytes(levels, "service_debug=7\nextractor_debug=7\nlauncher_debug=7\n") &&
                        Logger::Initialize(Logger::TYPE_FILE, LogCapture::path.toUtf8().constData(),
                                           levels.toUtf8().constData(), 50) == 0;

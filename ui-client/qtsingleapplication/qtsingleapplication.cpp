@@ -1,9 +1,14 @@
 #include "qtsingleapplication.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -11,22 +16,29 @@
 
 namespace {
 
-// Readable part of the lock file's name, so that a look into the temporary
-// folder tells which program holds which lock.
+// Readable part of the lock file's name, so that a look into the folder
+// tells which program holds which lock.
 const int kNamePrefixLength = 6;
 
 }  // namespace
 
+// The kernel's lock on the file, held for the process's life, goes with the
+// process however it ends: a killed copy leaves no stale lock behind, and what
+// the file holds does not matter. Only a lock held by another copy means
+// another instance; a folder that cannot hold the file must not keep the
+// program from running.
 QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool GUIenabled)
-    : QApplication(argc, argv, GUIenabled), instance_lock(instanceLockPath())
+    : QApplication(argc, argv, GUIenabled)
 {
-    // The lock is held for the whole life of the process, so its age says
-    // nothing: only a dead holder makes it stale.
-    instance_lock.setStaleLockTime(0);
-    // Only a lock held by someone else means another instance; a temporary
-    // folder that cannot hold the lock must not keep the program from running.
-    other_instance_running =
-        !instance_lock.tryLock(0) && instance_lock.error() == QLockFile::LockFailedError;
+    instance_lock = open(QFile::encodeName(instanceLockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    other_instance_running = instance_lock >= 0 && flock(instance_lock, LOCK_EX | LOCK_NB) != 0 &&
+                             errno == EWOULDBLOCK;
+}
+
+QtSingleApplication::~QtSingleApplication()
+{
+    if (instance_lock >= 0)
+        close(instance_lock);
 }
 
 bool QtSingleApplication::isRunning()
