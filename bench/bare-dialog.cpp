@@ -12,8 +12,8 @@ int main(int argc, char** argv)
 {
     // Placed beside the launcher in the bundle, so that both load the same
     // platform plug-in from the same folder.
-    QCoreApplication::setLibraryPaths(
-        QStringList(QDir::cleanPath(QString::fromLocal8Bit(argv[0]) + QStringLiteral("/../../Frameworks/plugins"))));
+    QCoreApplication::setLibraryPaths(QStringList(
+        QDir::cleanPath(QString::fromLocal8Bit(argv[0]) + QStringLiteral("/../../Frameworks/plugins"))));
     QtSingleApplication app(argc, argv, true);
     StrTable::InitStrTable();
     ProcessingProgressDialog dialog;

@@ -37,8 +37,8 @@ void PrintGaps(std::vector<qint64> gaps)
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setLibraryPaths(
-        QStringList(QDir::cleanPath(QString::fromLocal8Bit(argv[0]) + QStringLiteral("/../../Frameworks/plugins"))));
+    QCoreApplication::setLibraryPaths(QStringList(
+        QDir::cleanPath(QString::fromLocal8Bit(argv[0]) + QStringLiteral("/../../Frameworks/plugins"))));
     QApplication app(argc, argv);
     StrTable::InitStrTable();
 

@@ -9,9 +9,8 @@
 namespace {
 
 const char* const grgszLanguages[] = {
-    "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",
-    "rus", "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy",
-    nullptr,
+    "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",   "rus",
+    "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy", nullptr,
 };
 constexpr int kLanguageCount = sizeof(grgszLanguages) / sizeof(grgszLanguages[0]) - 1;
 
@@ -29,8 +28,7 @@ constexpr int kLocaleAgainLine = 80;
 constexpr int kChosenLine = 138;
 constexpr int kInstalledLine = 161;
 
-void LogValue(int line, const char* function, const char* format, const char* label,
-              const QString& value)
+void LogValue(int line, const char* function, const char* format, const char* label, const QString& value)
 {
     QMessageLogger(kLogFile, line, function, kLogCategory)
         .debug(format, kLogFile, line, label, qPrintable(value));
@@ -79,8 +77,8 @@ QString VelmLocale::languageForLocaleName(const QString& localeName)
     const QString qstrLocaleLower = localeName.toLower();
     // Traditional Chinese and European Portuguese share their language part
     // with another language, so only the whole name tells them apart.
-    const QString rgqstrTraditionalChinese[] = {
-        QStringLiteral("zh_tw"), QStringLiteral("zh_hk"), QStringLiteral("zh_mo"), QString()};
+    const QString rgqstrTraditionalChinese[] = {QStringLiteral("zh_tw"), QStringLiteral("zh_hk"),
+                                                QStringLiteral("zh_mo"), QString()};
     const QString rgqstrPortugal[] = {QStringLiteral("pt"), QStringLiteral("pt_pt"), QString()};
 
     if (IsListed(qstrLocaleLower, rgqstrTraditionalChinese))
@@ -100,10 +98,8 @@ QString VelmLocale::languageForLocaleName(const QString& localeName)
 QString VelmLocale::getDefaultLanguage()
 {
     const QString qstrLocaleLower = QLocale::system().name().toLower();
-    LogValue(kLocaleLine, Q_FUNC_INFO, kValueBreakFormat, "qPrintable(qstrLocaleLower)",
-             qstrLocaleLower);
-    LogValue(kLocaleAgainLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLocaleLower)",
-             qstrLocaleLower);
+    LogValue(kLocaleLine, Q_FUNC_INFO, kValueBreakFormat, "qPrintable(qstrLocaleLower)", qstrLocaleLower);
+    LogValue(kLocaleAgainLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLocaleLower)", qstrLocaleLower);
 
     QString qstrDef = languageForLocaleName(qstrLocaleLower);
     if (!isLanguageInstalled(qstrDef))
@@ -118,8 +114,7 @@ bool VelmLocale::isLanguageInstalled(QString const& lang)
     const QString qstrLangFileName = QStringLiteral(":/") + lang + QStringLiteral(".qm");
     if (!QFile::exists(qstrLangFileName))
         return false;
-    LogValue(kInstalledLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLangFileName)",
-             qstrLangFileName);
+    LogValue(kInstalledLine, Q_FUNC_INFO, kValueFormat, "qPrintable(qstrLangFileName)", qstrLangFileName);
     return true;
 }
 

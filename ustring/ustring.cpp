@@ -68,8 +68,8 @@ bool PointsInto(const Unit* p, const Unit* buffer, unsigned long capacity)
 // Self-appends read from the buffer being grown, so the source is looked up
 // again after a realloc may have moved it.
 template <typename Unit>
-void AppendUnits(Unit*& buffer, unsigned long& length, unsigned long& capacity,
-                  const Unit* source, unsigned long count)
+void AppendUnits(Unit*& buffer, unsigned long& length, unsigned long& capacity, const Unit* source,
+                 unsigned long count)
 {
     const bool own = PointsInto(source, buffer, capacity);
     const std::size_t offset = own ? static_cast<std::size_t>(source - buffer) : 0;
@@ -82,8 +82,7 @@ void AppendUnits(Unit*& buffer, unsigned long& length, unsigned long& capacity,
 }
 
 template <typename Unit>
-void FillUnits(Unit*& buffer, unsigned long& length, unsigned long& capacity,
-                Unit unit, unsigned long count)
+void FillUnits(Unit*& buffer, unsigned long& length, unsigned long& capacity, Unit unit, unsigned long count)
 {
     GrowToFit(buffer, capacity, SizeWithTerminator(length, count));
     std::fill_n(buffer + length, count, unit);
@@ -100,8 +99,8 @@ unsigned long UnitsBeforeTerminator(const unsigned short* units, unsigned long l
 }
 
 // The part [pos, pos + n) of a text, clipped to its end and to its first 0 byte.
-std::string_view CheckedSubstring(const char* bytes, unsigned long length,
-                                   unsigned long pos, unsigned long n, const char* error)
+std::string_view CheckedSubstring(const char* bytes, unsigned long length, unsigned long pos, unsigned long n,
+                                  const char* error)
 {
     if (pos > length)
         throw std::out_of_range(error);
@@ -116,8 +115,7 @@ std::string_view TextOf(const ustring& s)
 
 int32_t icu_capacity(unsigned long capacity)
 {
-    return static_cast<int32_t>(
-        std::min<unsigned long>(capacity, std::numeric_limits<int32_t>::max()));
+    return static_cast<int32_t>(std::min<unsigned long>(capacity, std::numeric_limits<int32_t>::max()));
 }
 
 unsigned long IcuLength(int32_t length)
@@ -127,8 +125,7 @@ unsigned long IcuLength(int32_t length)
 
 void Warn(const char* function, UErrorCode code, int line)
 {
-    std::cerr << "Warning: " << function << ": error code " << code
-              << " at line " << line << std::endl;
+    std::cerr << "Warning: " << function << ": error code " << code << " at line " << line << std::endl;
 }
 
 using FoldTable = std::array<unsigned char, 256>;
@@ -459,24 +456,66 @@ ustring& ustring::assign(const std::string& s, unsigned long pos, unsigned long 
     return append_utf8(part.data(), part.size());
 }
 
-ustring& ustring::operator=(const ustring& s) { return assign(s); }
-ustring& ustring::operator=(const std::string& s) { return assign(s); }
-ustring& ustring::operator=(const char* s) { return assign(s); }
-ustring& ustring::operator=(const unsigned short* s) { return assign(s); }
-ustring& ustring::operator=(char c) { return assign(c, 1); }
-ustring& ustring::operator=(unsigned short c) { return assign(c, 1); }
+ustring& ustring::operator=(const ustring& s)
+{
+    return assign(s);
+}
+ustring& ustring::operator=(const std::string& s)
+{
+    return assign(s);
+}
+ustring& ustring::operator=(const char* s)
+{
+    return assign(s);
+}
+ustring& ustring::operator=(const unsigned short* s)
+{
+    return assign(s);
+}
+ustring& ustring::operator=(char c)
+{
+    return assign(c, 1);
+}
+ustring& ustring::operator=(unsigned short c)
+{
+    return assign(c, 1);
+}
 
-ustring& ustring::operator+=(const ustring& s) { return append(s); }
-ustring& ustring::operator+=(const std::string& s) { return append(s); }
-ustring& ustring::operator+=(const char* s) { return append(s); }
-ustring& ustring::operator+=(const unsigned short* s) { return append(s); }
-ustring& ustring::operator+=(char c) { return append(c, 1); }
-ustring& ustring::operator+=(unsigned short c) { return append(c, 1); }
+ustring& ustring::operator+=(const ustring& s)
+{
+    return append(s);
+}
+ustring& ustring::operator+=(const std::string& s)
+{
+    return append(s);
+}
+ustring& ustring::operator+=(const char* s)
+{
+    return append(s);
+}
+ustring& ustring::operator+=(const unsigned short* s)
+{
+    return append(s);
+}
+ustring& ustring::operator+=(char c)
+{
+    return append(c, 1);
+}
+ustring& ustring::operator+=(unsigned short c)
+{
+    return append(c, 1);
+}
 
 // ---- access ----
 
-const char* ustring::c_str() const { return data; }
-const char* ustring::c_str_utf8() const { return data; }
+const char* ustring::c_str() const
+{
+    return data;
+}
+const char* ustring::c_str_utf8() const
+{
+    return data;
+}
 
 const unsigned short* ustring::c_str_utf16() const
 {
@@ -484,11 +523,26 @@ const unsigned short* ustring::c_str_utf16() const
     return wdata;
 }
 
-unsigned long ustring::length() const { return data_len; }
-unsigned long ustring::size() const { return data_len; }
-bool ustring::empty() const { return data_len == 0; }
-char& ustring::operator[](unsigned long i) { return data[i]; }
-const char& ustring::operator[](unsigned long i) const { return data[i]; }
+unsigned long ustring::length() const
+{
+    return data_len;
+}
+unsigned long ustring::size() const
+{
+    return data_len;
+}
+bool ustring::empty() const
+{
+    return data_len == 0;
+}
+char& ustring::operator[](unsigned long i)
+{
+    return data[i];
+}
+const char& ustring::operator[](unsigned long i) const
+{
+    return data[i];
+}
 
 ustring ustring::substr(unsigned long pos, unsigned long n) const
 {
@@ -679,9 +733,18 @@ ustring& ustring::trim(const char* set)
     return ltrim(set).rtrim(set);
 }
 
-ustring& ustring::ltrim(const ustring& set) { return ltrim(set.c_str()); }
-ustring& ustring::rtrim(const ustring& set) { return rtrim(set.c_str()); }
-ustring& ustring::trim(const ustring& set) { return trim(set.c_str()); }
+ustring& ustring::ltrim(const ustring& set)
+{
+    return ltrim(set.c_str());
+}
+ustring& ustring::rtrim(const ustring& set)
+{
+    return rtrim(set.c_str());
+}
+ustring& ustring::trim(const ustring& set)
+{
+    return trim(set.c_str());
+}
 
 // ---- comparison ----
 
@@ -705,9 +768,18 @@ bool operator==(const ustring& a, const ustring& b)
     return a.size() == b.size() && std::memcmp(a.c_str(), b.c_str(), a.size()) == 0;
 }
 
-bool operator!=(const ustring& a, const ustring& b) { return !(a == b); }
-bool operator<(const ustring& a, const ustring& b) { return a.compare(b) < 0; }
-bool operator>(const ustring& a, const ustring& b) { return a.compare(b) > 0; }
+bool operator!=(const ustring& a, const ustring& b)
+{
+    return !(a == b);
+}
+bool operator<(const ustring& a, const ustring& b)
+{
+    return a.compare(b) < 0;
+}
+bool operator>(const ustring& a, const ustring& b)
+{
+    return a.compare(b) > 0;
+}
 
 // ---- validation and normalisation ----
 
@@ -739,8 +811,8 @@ ustring ustring::normalize(const ustring& src, normalization_form form)
         IcuLength(unorm2_normalize(normalizer, src.c_str_utf16(), -1, nullptr, 0, &status));
     result.realloc_wdata(length + 1);
     status = U_ZERO_ERROR;
-    unorm2_normalize(normalizer, src.c_str_utf16(), -1, result.wdata,
-                     icu_capacity(result.wdata_capacity), &status);
+    unorm2_normalize(normalizer, src.c_str_utf16(), -1, result.wdata, icu_capacity(result.wdata_capacity),
+                     &status);
     if (U_FAILURE(status)) {
         Warn("unorm2_normalize", status, kNormalizeWarningLine);
         result.clear();
@@ -759,11 +831,26 @@ ustring ustring::normalize(normalization_form form) const
 
 // ---- free functions ----
 
-ustring operator+(const ustring& a, const ustring& b) { return Concatenated(a, b); }
-ustring operator+(const ustring& a, const char* b) { return Concatenated(a, b); }
-ustring operator+(const ustring& a, char b) { return Concatenated(a, b); }
-ustring operator+(const ustring& a, const unsigned short* b) { return Concatenated(a, b); }
-ustring operator+(const ustring& a, unsigned short b) { return Concatenated(a, b); }
+ustring operator+(const ustring& a, const ustring& b)
+{
+    return Concatenated(a, b);
+}
+ustring operator+(const ustring& a, const char* b)
+{
+    return Concatenated(a, b);
+}
+ustring operator+(const ustring& a, char b)
+{
+    return Concatenated(a, b);
+}
+ustring operator+(const ustring& a, const unsigned short* b)
+{
+    return Concatenated(a, b);
+}
+ustring operator+(const ustring& a, unsigned short b)
+{
+    return Concatenated(a, b);
+}
 
 void swap(ustring& a, ustring& b)
 {

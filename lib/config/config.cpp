@@ -34,8 +34,8 @@ bool IsControl(unsigned char c)
 
 bool IsKeyChar(unsigned char c)
 {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-'
-        || c == '.' || c == '_';
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' ||
+           c == '.' || c == '_';
 }
 
 std::size_t SkipBlanks(std::string_view line, std::size_t pos)

@@ -23,7 +23,6 @@
 
 namespace {
 
-
 // One heap buffer per copy; large chunks keep cross-device moves of the
 // package fast without holding the whole file.
 const size_t kCopyBufferSize = 32 * 1024 * 1024;
@@ -41,7 +40,8 @@ unsigned gid = kNoId;
 
 using FreeDeleter = decltype(&free);
 
-int32_t TypeFromMode(mode_t mode) {
+int32_t TypeFromMode(mode_t mode)
+{
     switch (mode & S_IFMT) {
     case S_IFREG: return FILE_TYPE_REGULAR;
     case S_IFDIR: return FILE_TYPE_DIRECTORY;
@@ -54,7 +54,8 @@ int32_t TypeFromMode(mode_t mode) {
     }
 }
 
-int32_t TypeFromDirentType(unsigned char d_type) {
+int32_t TypeFromDirentType(unsigned char d_type)
+{
     switch (d_type) {
     case DT_REG: return FILE_TYPE_REGULAR;
     case DT_DIR: return FILE_TYPE_DIRECTORY;
@@ -67,16 +68,19 @@ int32_t TypeFromDirentType(unsigned char d_type) {
     }
 }
 
-ustring ChildPath(const ustring& dir, const ustring& name) {
+ustring ChildPath(const ustring& dir, const ustring& name)
+{
     return dir + "/" + name;
 }
 
-bool IsDotEntry(const ustring& name) {
+bool IsDotEntry(const ustring& name)
+{
     return name == "." || name == "..";
 }
 
 // Logs why the platform could not resolve a path, naming the step that failed.
-void LogResolveFailure(fs_platform::ResolveStep step, int status) {
+void LogResolveFailure(fs_platform::ResolveStep step, int status)
+{
     if (step == fs_platform::RESOLVE_LOOKUP)
         LOG_MSG(ERROR, "FSPathMakeRef: %d", status);
     else
@@ -85,7 +89,8 @@ void LogResolveFailure(fs_platform::ResolveStep step, int status) {
 
 // The exact half of IsFileExist: the path, in NFC, must already be the
 // canonical path. on_disk is the spelling that reached the file.
-bool IsCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
+bool IsCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path)
+{
     LOG_MSG(DEBUG, "Input file path = [%s].", nfc_path.c_str());
     char canonical[fs_platform::kPathBufferSize] = {};
     fs_platform::ResolveStep failed_step;
@@ -103,7 +108,8 @@ bool IsCanonicalSpelling(const ustring& on_disk, const ustring& nfc_path) {
 }
 
 // The record of a file that does not exist yet, as if about to be created.
-void FillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
+void FillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info)
+{
     info.exists = false;
     info.mtime = static_cast<int32_t>(time(nullptr));
     info.path = path;
@@ -114,7 +120,8 @@ void FillMissingFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     info.mode = 0;
 }
 
-int OpenForCopy(const ustring& path, int flags) {
+int OpenForCopy(const ustring& path, int flags)
+{
     const int fd = open(path.c_str(), flags | O_CLOEXEC, kNewFileMode);
     if (fd < 0)
         LOG_MSG(ERROR, "CopyFile: open(%s): %s (%d)", path.c_str(), strerror(errno), errno);
@@ -123,13 +130,15 @@ int OpenForCopy(const ustring& path, int flags) {
 
 // Logs a failed write of the copy target. A full device is told apart from
 // other write errors so that callers can say so.
-int ReportWriteFailure(int error) {
+int ReportWriteFailure(int error)
+{
     LOG_MSG(ERROR, "CopyFile: write: %s (%d)", strerror(error), error);
     return error == ENOSPC ? FS_DEVICE_FULL : FS_ERROR;
 }
 
 // Writes all of data, continuing after short writes; FS_OK, FS_ERROR or FS_DEVICE_FULL.
-int WriteChunk(int fd, const char* data, ssize_t length) {
+int WriteChunk(int fd, const char* data, ssize_t length)
+{
     while (length > 0) {
         const ssize_t written = write(fd, data, static_cast<size_t>(length));
         if (written < 0 && errno == EINTR)
@@ -142,7 +151,8 @@ int WriteChunk(int fd, const char* data, ssize_t length) {
     return FS_OK;
 }
 
-ssize_t ReadChunk(int fd, char* buffer) {
+ssize_t ReadChunk(int fd, char* buffer)
+{
     ssize_t count;
     do {
         count = read(fd, buffer, kCopyBufferSize);
@@ -151,11 +161,12 @@ ssize_t ReadChunk(int fd, char* buffer) {
 }
 
 // Copies every byte from src_fd to dst_fd; FS_OK, FS_ERROR or FS_DEVICE_FULL.
-int CopyBytes(int src_fd, int dst_fd) {
+int CopyBytes(int src_fd, int dst_fd)
+{
     std::unique_ptr<char, FreeDeleter> buffer(static_cast<char*>(malloc(kCopyBufferSize)), &free);
     if (!buffer) {
-        LOG_MSG(ERROR, "FSCopy: malloc(%d): %s (%d)",
-                static_cast<int>(kCopyBufferSize), strerror(errno), errno);
+        LOG_MSG(ERROR, "FSCopy: malloc(%d): %s (%d)", static_cast<int>(kCopyBufferSize), strerror(errno),
+                errno);
         return FS_ERROR;
     }
     ssize_t count;
@@ -172,7 +183,8 @@ int CopyBytes(int src_fd, int dst_fd) {
 }
 
 // Flushes and closes fd; the first failure's errno is kept.
-int SyncAndClose(int fd) {
+int SyncAndClose(int fd)
+{
     const int sync_status = fsync(fd);
     const int sync_errno = errno;
     const int close_status = close(fd);
@@ -185,14 +197,16 @@ int SyncAndClose(int fd) {
 
 // Data the device could not take may only show up at the flush; a copy that
 // then counted as done would let FSRename delete the only good source.
-int FinishCopyTarget(int dst_fd, int copy_status) {
+int FinishCopyTarget(int dst_fd, int copy_status)
+{
     if (SyncAndClose(dst_fd) == 0 || copy_status != FS_OK)
         return copy_status;
     return ReportWriteFailure(errno);
 }
 
 // Removes one file, link or empty folder as a step of a move or delete.
-int RemoveEntry(const ustring& path) {
+int RemoveEntry(const ustring& path)
+{
     return remove(path.c_str()) == 0 ? FS_OK : FS_STEP_FAILED;
 }
 
@@ -200,7 +214,8 @@ int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact);
 
 // The EXDEV fallback of FSRename. Links, devices and other special files
 // cannot be carried over by copying and are left where they are.
-int MoveAcrossDevices(const ustring& src, const ustring& dst, int32_t type, bool exact) {
+int MoveAcrossDevices(const ustring& src, const ustring& dst, int32_t type, bool exact)
+{
     if (type == FILE_TYPE_REGULAR)
         return FSCopy(src, dst, true) < 0 ? FS_STEP_FAILED : FS_OK;
     if (type == FILE_TYPE_DIRECTORY)
@@ -213,7 +228,8 @@ enum class WalkOutcome { NotOpened, Stopped, Finished };
 // Calls visit with the name of every entry of dir but "." and "..", depth
 // first through the caller's recursion, until visit returns nonzero. A read
 // error ends the walk as if the folder were exhausted.
-WalkOutcome ForEachChild(const ustring& dir, const std::function<int(const ustring&)>& visit) {
+WalkOutcome ForEachChild(const ustring& dir, const std::function<int(const ustring&)>& visit)
+{
     DIR_HANDLE handle;
     if (FSOpenDir(dir, 0, handle) != FS_OK)
         return WalkOutcome::NotOpened;
@@ -231,7 +247,8 @@ WalkOutcome ForEachChild(const ustring& dir, const std::function<int(const ustri
     return outcome;
 }
 
-int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact) {
+int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact)
+{
     if (FSMKDir(dst, true) != FS_OK)
         return FS_STEP_FAILED;
     const WalkOutcome outcome = ForEachChild(src, [&](const ustring& name) {
@@ -244,7 +261,8 @@ int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact) 
 
 // Gives a folder made by FSMKDirP to the configured owner; nothing to do
 // while no owner was configured.
-void GiveToConfiguredOwner(const char* path) {
+void GiveToConfiguredOwner(const char* path)
+{
     if (uid == kNoId && gid == kNoId)
         return;
     const uid_t owner = uid == kNoId ? geteuid() : uid;
@@ -254,7 +272,8 @@ void GiveToConfiguredOwner(const char* path) {
 }
 
 // Makes prefix a folder if it is not one; 0, or -1 with errno set.
-int EnsureFolder(const char* prefix, bool is_last, bool replace_non_dirs, mode_t mode) {
+int EnsureFolder(const char* prefix, bool is_last, bool replace_non_dirs, mode_t mode)
+{
     struct stat st;
     if (stat(prefix, &st) == 0) {
         if (S_ISDIR(st.st_mode))
@@ -275,7 +294,8 @@ int EnsureFolder(const char* prefix, bool is_last, bool replace_non_dirs, mode_t
 // Walks text component by component, cutting it after each one in turn.
 // *end receives the offset of the character that ended the last component
 // handled.
-int MakeEachFolder(char* text, bool replace_non_dirs, mode_t mode, size_t* end) {
+int MakeEachFolder(char* text, bool replace_non_dirs, mode_t mode, size_t* end)
+{
     size_t start = text[0] == '/' ? 1 : 0;
     for (;;) {
         const size_t cut = start + strcspn(text + start, "/");
@@ -295,29 +315,35 @@ int MakeEachFolder(char* text, bool replace_non_dirs, mode_t mode, size_t* end) 
 
 }  // namespace
 
-bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b)
+{
     return a.exists == b.exists && a.size == b.size && a.mtime == b.mtime && a.type == b.type &&
            a.path == b.path && a.extra == b.extra;
 }
 
-bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b)
+{
     return !(a == b);
 }
 
-void FSInitialize(unsigned new_uid, unsigned new_gid) {
+void FSInitialize(unsigned new_uid, unsigned new_gid)
+{
     uid = new_uid;
     gid = new_gid;
 }
 
-int FSInit(const ustring&) {
+int FSInit(const ustring&)
+{
     return 0;
 }
 
-int FSChown(const ustring& path) {
+int FSChown(const ustring& path)
+{
     return chown(path.c_str(), uid, gid);
 }
 
-bool IsFileExist(const ustring& path, bool exact) {
+bool IsFileExist(const ustring& path, bool exact)
+{
     const ustring nfc_path = path.normalize(ustring::NFC);
     if (nfc_path.empty())
         return false;
@@ -332,7 +358,8 @@ bool IsFileExist(const ustring& path, bool exact) {
     return !exact || IsCanonicalSpelling(*spelling, nfc_path);
 }
 
-int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
+int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
+{
     struct stat st;
     if (lstat(path.c_str(), &st) != 0) {
         if (errno != ENOENT)
@@ -356,7 +383,8 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     return FS_OK;
 }
 
-int FSGetRealPath(ustring& path) {
+int FSGetRealPath(ustring& path)
+{
     LOG_MSG(DEBUG, " org path [%s]", path.c_str());
     char canonical[fs_platform::kPathBufferSize] = {};
     fs_platform::ResolveStep failed_step;
@@ -367,7 +395,8 @@ int FSGetRealPath(ustring& path) {
     return FS_OK;
 }
 
-int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact) {
+int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact)
+{
     if (path.empty())
         return FS_ERROR;
     if (!IsFileExist(path, exact)) {
@@ -377,7 +406,8 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact) {
     return GetFileInfo(path, info) == FS_OK ? FS_OK : FS_SOURCE_MISSING;
 }
 
-int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
+int FSCopy(const ustring& src, const ustring& dst, bool remove_src)
+{
     const int src_fd = OpenForCopy(src, O_RDONLY);
     if (src_fd < 0)
         return FS_ERROR;
@@ -394,7 +424,8 @@ int FSCopy(const ustring& src, const ustring& dst, bool remove_src) {
     return remove(src.c_str()) == 0 ? FS_OK : FS_ERROR;
 }
 
-int FSRename(const ustring& src, const ustring& dst, bool exact) {
+int FSRename(const ustring& src, const ustring& dst, bool exact)
+{
     if (src.empty() || dst.empty())
         return FS_ERROR;
     _FILE_INFO_tag info;
@@ -405,12 +436,12 @@ int FSRename(const ustring& src, const ustring& dst, bool exact) {
     const int error = errno;
     if (error == EXDEV)
         return MoveAcrossDevices(src, dst, info.type, exact);
-    LOG_MSG(ERROR, "FSRename: rename(%s, %s): %s (%d)",
-            src.c_str(), dst.c_str(), strerror(error), error);
+    LOG_MSG(ERROR, "FSRename: rename(%s, %s): %s (%d)", src.c_str(), dst.c_str(), strerror(error), error);
     return error == ENAMETOOLONG ? FS_NAME_TOO_LONG : FS_STEP_FAILED;
 }
 
-int FSMKDir(const ustring& path, bool recursive) {
+int FSMKDir(const ustring& path, bool recursive)
+{
     if (path.empty())
         return FS_ERROR;
     _FILE_INFO_tag info;
@@ -436,7 +467,8 @@ int FSMKDir(const ustring& path, bool recursive) {
     return FS_OK;
 }
 
-int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigned short mode) {
+int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigned short mode)
+{
     if (path.empty())
         return FS_ERROR;
     std::unique_ptr<char, FreeDeleter> text(strdup(path.c_str()), &free);
@@ -457,7 +489,8 @@ int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigne
     return status;
 }
 
-int FSRemove(const ustring& path, bool) {
+int FSRemove(const ustring& path, bool)
+{
     if (path.empty())
         return FS_ERROR;
     _FILE_INFO_tag info;
@@ -477,7 +510,8 @@ int FSRemove(const ustring& path, bool) {
     return RemoveEntry(path);
 }
 
-int FSMktemp(const ustring& dir, ustring& out) {
+int FSMktemp(const ustring& dir, ustring& out)
+{
     const ustring name_template = dir + "/XXXXXX";
     char name[fs_platform::kPathBufferSize] = {};
     int fd = -1;
@@ -499,21 +533,23 @@ int FSMktemp(const ustring& dir, ustring& out) {
     return FS_OK;
 }
 
-int FSCreateTempPath(const ustring& dir, ustring& out) {
+int FSCreateTempPath(const ustring& dir, ustring& out)
+{
     out = TmpNameGen::getInstance()->getTmpPath(dir);
     return out.empty() ? FS_ERROR : FS_OK;
 }
 
-int FSUTime(const ustring& path, long atime, long mtime) {
+int FSUTime(const ustring& path, long atime, long mtime)
+{
     const struct utimbuf times = {atime, mtime};
     return utime(path.c_str(), &times) == 0 ? FS_OK : FS_ERROR;
 }
 
-int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
+int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle)
+{
     DIR* dir = opendir(path.c_str());
     if (dir == nullptr) {
-        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s",
-                path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s", path.c_str(), strerror(errno));
         return FS_ERROR;
     }
     handle.dir = dir;
@@ -522,15 +558,15 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
     return FS_OK;
 }
 
-int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
+int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry)
+{
     // readdir on the walk's own stream is as safe as readdir_r and not deprecated.
     errno = 0;
     const struct dirent* next = readdir(handle.dir);
     if (next == nullptr) {
         if (errno == 0)
             return FS_DIR_END;
-        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s",
-                handle.path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s", handle.path.c_str(), strerror(errno));
         return FS_ERROR;
     }
     // An entry that vanishes before it is examined keeps time and size 0.
@@ -549,38 +585,43 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     return FS_DIR_ENTRY;
 }
 
-void FSCloseDir(DIR_HANDLE& handle) {
+void FSCloseDir(DIR_HANDLE& handle)
+{
     if (handle.dir != nullptr)
         closedir(handle.dir);
     handle.dir = nullptr;
     handle.path.clear();
 }
 
-bool FSTimeEqual(long a, long b) {
+bool FSTimeEqual(long a, long b)
+{
     return a == b;
 }
 
-bool isFileLocked(const ustring& path, int mode) {
+bool isFileLocked(const ustring& path, int mode)
+{
     if (access(path.c_str(), mode) == 0)
         return false;
     return errno == EACCES || errno == EPERM;
 }
 
-bool isMountPoint(const ustring& path) {
+bool isMountPoint(const ustring& path)
+{
     std::string name;
     if (fs_platform::type_name(path.c_str(), &name) != 0) {
-        LOG_MSG(ERROR, "isMountPoint: Failed to get file system info '%s'. %s",
-                path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "isMountPoint: Failed to get file system info '%s'. %s", path.c_str(),
+                strerror(errno));
         return false;
     }
     return name == "nfs" || name == "smbfs" || name == "afpfs";
 }
 
-bool IsMSDOS(const ustring& path) {
+bool IsMSDOS(const ustring& path)
+{
     std::string name;
     if (fs_platform::type_name(path.c_str(), &name) != 0) {
-        LOG_MSG(ERROR, "IsSupportLargeFile: Failed to get file system info '%s'. %s",
-                path.c_str(), strerror(errno));
+        LOG_MSG(ERROR, "IsSupportLargeFile: Failed to get file system info '%s'. %s", path.c_str(),
+                strerror(errno));
         return false;
     }
     if (name != "msdos")

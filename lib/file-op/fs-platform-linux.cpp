@@ -20,14 +20,12 @@ struct MagicName {
 // Linux tells file systems apart by magic number; callers expect the names
 // macOS uses. Linux has no AFP client, so "afpfs" never appears.
 const MagicName kKnownFileSystems[] = {
-    {NFS_SUPER_MAGIC, "nfs"},
-    {SMB_SUPER_MAGIC, "smbfs"},
-    {CIFS_SUPER_MAGIC, "smbfs"},
-    {SMB2_SUPER_MAGIC, "smbfs"},
-    {MSDOS_SUPER_MAGIC, "msdos"},
+    {NFS_SUPER_MAGIC, "nfs"},    {SMB_SUPER_MAGIC, "smbfs"},   {CIFS_SUPER_MAGIC, "smbfs"},
+    {SMB2_SUPER_MAGIC, "smbfs"}, {MSDOS_SUPER_MAGIC, "msdos"},
 };
 
-const char* NameOfMagic(unsigned long magic) {
+const char* NameOfMagic(unsigned long magic)
+{
     for (const MagicName& known : kKnownFileSystems) {
         if (known.magic == magic)
             return known.name;
@@ -37,7 +35,8 @@ const char* NameOfMagic(unsigned long magic) {
 
 }  // namespace
 
-int canonical_path(const char* path, char* buf, ResolveStep* failed_step) {
+int canonical_path(const char* path, char* buf, ResolveStep* failed_step)
+{
     // realpath does both steps at once; its failures count as the lookup.
     if (realpath(path, buf) == nullptr) {
         *failed_step = RESOLVE_LOOKUP;
@@ -46,7 +45,8 @@ int canonical_path(const char* path, char* buf, ResolveStep* failed_step) {
     return 0;
 }
 
-int type_name(const char* path, std::string* name) {
+int type_name(const char* path, std::string* name)
+{
     struct statfs info;
     if (statfs(path, &info) != 0)
         return -1;

@@ -10,7 +10,8 @@
 
 namespace fs_platform {
 
-int canonical_path(const char* path, char* buf, ResolveStep* failed_step) {
+int canonical_path(const char* path, char* buf, ResolveStep* failed_step)
+{
     FSRef ref;
     OSStatus status = FSPathMakeRef(reinterpret_cast<const UInt8*>(path), &ref, nullptr);
     if (status != noErr) {
@@ -25,7 +26,8 @@ int canonical_path(const char* path, char* buf, ResolveStep* failed_step) {
     return 0;
 }
 
-int type_name(const char* path, std::string* name) {
+int type_name(const char* path, std::string* name)
+{
     struct statfs info;
     if (statfs(path, &info) != 0)
         return -1;

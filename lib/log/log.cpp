@@ -72,17 +72,10 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_file
     load_levels(level_file);
     log_type = type;
     switch (type) {
-    case TYPE_STDERR:
-        use_stream(stderr);
-        return 0;
-    case TYPE_STDOUT:
-        use_stream(stdout);
-        return 0;
-    case TYPE_SYSLOG:
-        use_stream(nullptr);
-        return 0;
-    default:
-        return open_file(path, rotation_slots);
+    case TYPE_STDERR: use_stream(stderr); return 0;
+    case TYPE_STDOUT: use_stream(stdout); return 0;
+    case TYPE_SYSLOG: use_stream(nullptr); return 0;
+    default: return open_file(path, rotation_slots);
     }
 }
 
@@ -185,16 +178,11 @@ int Logger::open_file(const ustring& path, int rotation_slots)
 int64_t Logger::write_message(const char* format, va_list args)
 {
     switch (log_type) {
-    case TYPE_SYSLOG:
-        vsyslog(LOG_ERR, format, args);
-        return 0;
+    case TYPE_SYSLOG: vsyslog(LOG_ERR, format, args); return 0;
     case TYPE_STDOUT:
     case TYPE_STDERR:
-    case TYPE_FILE:
-        return log_fp != nullptr ? write_stamped(format, args) : 0;
-    default:
-        vfprintf(stderr, format, args);
-        return 0;
+    case TYPE_FILE: return log_fp != nullptr ? write_stamped(format, args) : 0;
+    default: vfprintf(stderr, format, args); return 0;
     }
 }
 

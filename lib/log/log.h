@@ -60,13 +60,13 @@ void LogMSG_c(int level, char* component, const char* format, va_list args)
 // LOG_COMPONENT (the threshold's component, "service_debug") and LOG_TAG (its
 // name in the text, "cloud-service") before using it:
 //   LOG_MSG(ERROR, "failed to create folder: '%s'", path.c_str_utf8());
-#define LOG_MSG(level, format, ...)                                                         \
-    Logger::LogMsg(Logger::LEVEL_##level, LOG_COMPONENT, "[" #level "] " LOG_TAG "(%d): " \
-                   format "\n", __LINE__, ##__VA_ARGS__)
+#define LOG_MSG(level, format, ...)                                                                    \
+    Logger::LogMsg(Logger::LEVEL_##level, LOG_COMPONENT, "[" #level "] " LOG_TAG "(%d): " format "\n", \
+                   __LINE__, ##__VA_ARGS__)
 
 // The same for the few messages whose text ends without a newline.
-#define LOG_MSG_WITHOUT_NEWLINE(level, format, ...)                                         \
-    Logger::LogMsg(Logger::LEVEL_##level, LOG_COMPONENT, "[" #level "] " LOG_TAG "(%d): " \
-                   format, __LINE__, ##__VA_ARGS__)
+#define LOG_MSG_WITHOUT_NEWLINE(level, format, ...)                                                         \
+    Logger::LogMsg(Logger::LEVEL_##level, LOG_COMPONENT, "[" #level "] " LOG_TAG "(%d): " format, __LINE__, \
+                   ##__VA_ARGS__)
 
 #endif  // LOG_H

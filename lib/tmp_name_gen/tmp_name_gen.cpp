@@ -48,7 +48,9 @@ TmpNameGen::TmpNameGen(const char* key_text) : state(), key(), out()
     rc4_init(state, key);
 }
 
-TmpNameGen::~TmpNameGen() {}
+TmpNameGen::~TmpNameGen()
+{
+}
 
 ustring TmpNameGen::getTmpName()
 {

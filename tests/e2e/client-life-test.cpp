@@ -69,9 +69,11 @@ TEST_F(ClientLife, LauncherOutputEndsWithTheLauncherWhileTheClientRuns)
     ASSERT_EQ(RunningBuilds(), QStringList{"5"});
 
     const QString descriptors = "/proc/" + QString::number(LastStartedPid()) + "/fd/";
-    for (const QString& fd : QDir(descriptors).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
+    for (const QString& fd :
+         QDir(descriptors).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
         const QString target = QFile::symLinkTarget(descriptors + fd);
-        EXPECT_FALSE(target.endsWith("launcher.log") || target.endsWith(layout::kLockFile)) << target.toStdString();
+        EXPECT_FALSE(target.endsWith("launcher.log") || target.endsWith(layout::kLockFile))
+            << target.toStdString();
         if (fd.toInt() <= 2) {
             EXPECT_EQ(target, "/dev/null") << "descriptor " << fd.toStdString();
         }

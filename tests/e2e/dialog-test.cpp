@@ -16,7 +16,8 @@ using DialogUnderX = LauncherSandbox;
 // "0x400007 "Velmora Drovia": ("launcher" "launcher")  400x97+0+0  +0+0" gives 0x400007.
 QString DialogWindow(const QString& display)
 {
-    static const QRegularExpression dialog(R"((0x[0-9a-f]+) "Velmora Drovia": \("launcher" [^)]*\)\s+400x\d+)");
+    static const QRegularExpression dialog(
+        R"((0x[0-9a-f]+) "Velmora Drovia": \("launcher" [^)]*\)\s+400x\d+)");
     QProcess xwininfo;
     xwininfo.start("xwininfo", {"-display", display, "-root", "-tree"});
     xwininfo.waitForFinished();

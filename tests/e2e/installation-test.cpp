@@ -88,7 +88,8 @@ TEST_F(Installation, EveryInterruptionConvergesOnTheNextRun)
         {"stopping the old client", [this] { return !LogMessages().filter("local appdata exist").isEmpty(); },
          "slow-exit"},
         {"backup made", backup_made},
-        {"unpacking", [this] { return QFileInfo::exists(UserPath("Drovia.app/Contents/Resources/new/150")); }},
+        {"unpacking",
+         [this] { return QFileInfo::exists(UserPath("Drovia.app/Contents/Resources/new/150")); }},
         {"cleaning up", [&] { return new_build_in() && backup_made(); }},
         {"starting the client", [&] { return new_build_in() && !backup_made(); }},
     };

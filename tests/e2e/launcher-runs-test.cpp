@@ -48,7 +48,8 @@ TEST_F(LauncherRuns, FullDiskRollsBackByteForByte)
     EXPECT_EQ(SnapshotOfFolder(UserPath("Drovia.app")), old_installation);
     EXPECT_TRUE(Backups().isEmpty());
     EXPECT_EQ(StartedBuilds(), QStringList{"4"});
-    EXPECT_TRUE(LogMessages().contains("cloud-service: Failed to extract package, rollback to old installation"));
+    EXPECT_TRUE(
+        LogMessages().contains("cloud-service: Failed to extract package, rollback to old installation"));
     EXPECT_EQ(umount2(home.toUtf8().constData(), MNT_DETACH), 0);
 }
 

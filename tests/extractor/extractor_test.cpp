@@ -53,7 +53,8 @@ TEST(Extractor, UnpacksEveryFormatReportingEachEntryUntilTheFirstBadOne)
     std::vector<PackageEntry> accented = three;
     accented.push_back({"C/\xc3\xa9", "4"});
     std::string not_utf8 = MakeArchive(accented);
-    for (size_t at = not_utf8.find("C/\xc3\xa9"); at != std::string::npos; at = not_utf8.find("C/\xc3\xa9", at))
+    for (size_t at = not_utf8.find("C/\xc3\xa9"); at != std::string::npos;
+         at = not_utf8.find("C/\xc3\xa9", at))
         not_utf8.replace(at + 2, 2, "\xff\xfe");
     const struct {
         const char* name;
@@ -103,18 +104,33 @@ TEST(Extractor, WritesNothingOutsideTheDestination)
         {"FIFO", {file, {"fifo", "", EntryKind::Fifo}}, -1, {{"f", "f:data"}}},
         {"link climbing out", {link("h", "../.."), {"h/planted", "x"}}, -1, {}},
         {"absolute link", {link("etc", "/etc")}, -1, {}},
-        {"chain of links", {link("s", "."), link("t", "s/.."), {"t/planted", "x"}}, -1,
+        {"chain of links",
+         {link("s", "."), link("t", "s/.."), {"t/planted", "x"}},
+         -1,
          {{"s", "l:."}, {"t", "l:s/.."}}},
         {"hard link", {file, hard_link("g", "f")}, 0, {{"f", "f:data"}, {"g", "f:data"}}},
-        {"hard link to an absolute name", {file, hard_link("g", "/f")}, 0, {{"f", "f:data"}, {"g", "f:data"}}},
+        {"hard link to an absolute name",
+         {file, hard_link("g", "/f")},
+         0,
+         {{"f", "f:data"}, {"g", "f:data"}}},
         {"hard link climbing out", {hard_link("g", "../../f")}, -1, {}},
-        {"hard link behind a link", {{"d/f", "x"}, link("s", "d"), hard_link("g", "s/f")}, -1,
+        {"hard link behind a link",
+         {{"d/f", "x"}, link("s", "d"), hard_link("g", "s/f")},
+         -1,
          {{"d", "d"}, {"d/f", "f:x"}, {"s", "l:d"}}},
-        {"framework links", {{"V/A/lib", "x"}, link("V/Current", "A"), link("lib", "V/Current/lib")}, 0,
+        {"framework links",
+         {{"V/A/lib", "x"}, link("V/Current", "A"), link("lib", "V/Current/lib")},
+         0,
          {{"V", "d"}, {"V/A", "d"}, {"V/A/lib", "f:x"}, {"V/Current", "l:A"}, {"lib", "l:V/Current/lib"}}},
-        {"read-only folder", {{"ro", "", EntryKind::Folder, 0555}, {"ro/f", "x", EntryKind::File, 0444}}, 0,
+        {"read-only folder",
+         {{"ro", "", EntryKind::Folder, 0555}, {"ro/f", "x", EntryKind::File, 0444}},
+         0,
          {{"ro", "d"}, {"ro/f", "f:x"}}},
-        {"non-ASCII name in the C locale", {{"caf\xc3\xa9", "x"}}, 0, {{"caf\xc3\xa9", "f:x"}}, ARCHIVE_FORMAT_ZIP},
+        {"non-ASCII name in the C locale",
+         {{"caf\xc3\xa9", "x"}},
+         0,
+         {{"caf\xc3\xa9", "f:x"}},
+         ARCHIVE_FORMAT_ZIP},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

@@ -19,7 +19,10 @@ protected:
     // Spelled canonically, so that exact lookups can pass.
     ustring At(const QString& relative) const { return qPrintable(root + "/" + relative); }
     bool Exists(const QString& relative) const { return QFileInfo::exists(root + "/" + relative); }
-    void Write(const QString& relative, const std::string& content) { ASSERT_TRUE(WriteBytes(root + "/" + relative, content)); }
+    void Write(const QString& relative, const std::string& content)
+    {
+        ASSERT_TRUE(WriteBytes(root + "/" + relative, content));
+    }
 
     QTemporaryDir scratch;
     const QString root = QFileInfo(scratch.path()).canonicalFilePath();
@@ -87,7 +90,7 @@ TEST_F(FileOpTest, RemoveDeletesTreeButNeverFollowsLinks)
 
 TEST_F(FileOpTest, ExistenceTestsDifferInHowPathsAreSpelled)
 {
-    const QString composed = QString::fromUtf8("caf\xC3\xA9");  // e-acute: one code point,
+    const QString composed = QString::fromUtf8("caf\xC3\xA9");     // e-acute: one code point,
     const QString decomposed = QString::fromUtf8("cafe\xCC\x81");  // or e and an accent
     Write("dir/file", "");
     Write(composed, "");
@@ -97,11 +100,16 @@ TEST_F(FileOpTest, ExistenceTestsDifferInHowPathsAreSpelled)
         ustring path;
         bool loose;
         bool exact;
-    } cases[] = {{At("dir/file"), true, true},          {At("link"), true, false},
-                 {At("dir/"), true, false},             {At("./dir/file"), true, false},
-                 {At("dir//file"), true, false},        {At("dir/../dir/file"), true, false},
-                 {At("missing"), false, false},         {At(decomposed), true, true},
-                 {At("stored-" + decomposed), true, true}, {At("stored-" + composed), false, false},
+    } cases[] = {{At("dir/file"), true, true},
+                 {At("link"), true, false},
+                 {At("dir/"), true, false},
+                 {At("./dir/file"), true, false},
+                 {At("dir//file"), true, false},
+                 {At("dir/../dir/file"), true, false},
+                 {At("missing"), false, false},
+                 {At(decomposed), true, true},
+                 {At("stored-" + decomposed), true, true},
+                 {At("stored-" + composed), false, false},
                  {"", false, false}};
     for (const auto& c : cases) {
         EXPECT_EQ(IsFileExist(c.path, false), c.loose) << c.path;

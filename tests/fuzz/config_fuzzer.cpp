@@ -14,7 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     FUZZ_CHECK(result == 0 || (result == -1 && config.entries.empty()));
     for (const auto& [key, value] : config.entries) {
         for (size_t i = 0; i < key.size(); ++i)
-            FUZZ_CHECK(std::strchr("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._", key[i]));
+            FUZZ_CHECK(
+                std::strchr("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._", key[i]));
         for (size_t i = 0; i < value.size(); ++i)
             FUZZ_CHECK(static_cast<unsigned char>(value[i]) >= 0x20 && value[i] != 0x7f);
     }

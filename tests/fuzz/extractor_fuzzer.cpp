@@ -36,7 +36,8 @@ bool SetUp()
 {
     const rlimit file_size = {64 << 20, 64 << 20};
     StrTable::InitStrTable();
-    return Logger::Initialize(Logger::TYPE_STDERR, "", WriteScratch("levels", "extractor_debug=0\n").c_str(), 0) == 0 &&
+    return Logger::Initialize(Logger::TYPE_STDERR, "", WriteScratch("levels", "extractor_debug=0\n").c_str(),
+                              0) == 0 &&
            signal(SIGXFSZ, SIG_IGN) != SIG_ERR && setrlimit(RLIMIT_FSIZE, &file_size) == 0;
 }
 

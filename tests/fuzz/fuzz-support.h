@@ -10,12 +10,12 @@
 #include <string>
 
 // A failed property aborts, which libFuzzer reports with the input.
-#define FUZZ_CHECK(condition)                                                             \
-    do {                                                                                  \
-        if (!(condition)) {                                                               \
+#define FUZZ_CHECK(condition)                                                            \
+    do {                                                                                 \
+        if (!(condition)) {                                                              \
             std::fprintf(stderr, "%s:%d: failed: %s\n", __FILE__, __LINE__, #condition); \
-            std::abort();                                                                 \
-        }                                                                                 \
+            std::abort();                                                                \
+        }                                                                                \
     } while (false)
 
 // A private folder for the run, removed at exit. Never freed: the exit

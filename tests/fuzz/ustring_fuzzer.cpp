@@ -18,16 +18,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     ustring up(p);
     text.assign(bytes, n);
     const unsigned short* units = text.c_str_utf16();
-    FUZZ_CHECK(text.c_str_utf8() == plain && (text.empty() || units[0] == 0 || ustring(units) == text));  // 0: not convertible
+    FUZZ_CHECK(text.c_str_utf8() == plain &&
+               (text.empty() || units[0] == 0 || ustring(units) == text));  // 0: not convertible
     const ustring nfc = text.normalize(ustring::NFC);
-    FUZZ_CHECK(nfc.normalize(ustring::NFC) == nfc && nfc.normalize(ustring::NFD).normalize(ustring::NFC) == nfc);
+    FUZZ_CHECK(nfc.normalize(ustring::NFC) == nfc &&
+               nfc.normalize(ustring::NFD).normalize(ustring::NFC) == nfc);
     // Empty patterns and sets answer differently from std::string, by design.
-    FUZZ_CHECK(p.empty() || (text.find(up, pos) == plain.find(p, pos) && text.rfind(up, pos) == plain.rfind(p, pos) &&
-                             text.find_first_of(up, pos) == plain.find_first_of(p, pos) &&
-                             text.find_first_not_of(up, pos) == plain.find_first_not_of(p, pos) &&
-                             text.find_last_of(up, pos) == plain.find_last_of(p, pos) &&
-                             text.find_last_not_of(up, pos) == plain.find_last_not_of(p, pos)));
-    FUZZ_CHECK(text.substr(std::min(pos, plain.size()), pos).c_str_utf8() == plain.substr(std::min(pos, plain.size()), pos));
+    FUZZ_CHECK(p.empty() ||
+               (text.find(up, pos) == plain.find(p, pos) && text.rfind(up, pos) == plain.rfind(p, pos) &&
+                text.find_first_of(up, pos) == plain.find_first_of(p, pos) &&
+                text.find_first_not_of(up, pos) == plain.find_first_not_of(p, pos) &&
+                text.find_last_of(up, pos) == plain.find_last_of(p, pos) &&
+                text.find_last_not_of(up, pos) == plain.find_last_not_of(p, pos)));
+    FUZZ_CHECK(text.substr(std::min(pos, plain.size()), pos).c_str_utf8() ==
+               plain.substr(std::min(pos, plain.size()), pos));
     ustring twice = text;
     twice += twice;
     FUZZ_CHECK(twice.c_str_utf8() == plain + plain);

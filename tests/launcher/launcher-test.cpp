@@ -78,11 +78,14 @@ std::string RunLauncher(Outcome outcome)
     int shown = 0;
     int labels = 0;
     // Queued behind the launcher's own slot, which shows the dialog.
-    QObject::connect(worker, &Worker::sigShowMsg, launcher, [&] {
-        ++shown;
-        if (outcome.slow)
-            Dialog()->close();
-    }, Qt::QueuedConnection);
+    QObject::connect(
+        worker, &Worker::sigShowMsg, launcher,
+        [&] {
+            ++shown;
+            if (outcome.slow)
+                Dialog()->close();
+        },
+        Qt::QueuedConnection);
     QObject::connect(worker, &Worker::sigSetLabelText, [&] { ++labels; });
     QTimer::singleShot(10000, [] { QCoreApplication::exit(1); });
     launcher->Run();
@@ -104,10 +107,12 @@ std::string RunLauncher(Outcome outcome)
 TEST(Launcher, LogsEachOutcomeInOrderShowsTheDialogOnlyToUpgradeAndTruncatesPercentages)
 {
     const std::string head = "launcher: running|fake: Pre|";
-    const std::string tail = "|cloud-service: removing aged app folder|fake: Post|launcher: done|fake: destroyed";
+    const std::string tail =
+        "|cloud-service: removing aged app folder|fake: Post|launcher: done|fake: destroyed";
     EXPECT_EQ(RunLauncher({false, 0, false}), head + "launcher: no need to upgrade" + tail);
     EXPECT_EQ(RunLauncher({true, 0, false}), head + "fake: Handle" + tail);
-    EXPECT_EQ(RunLauncher({true, -1, false}), head + "fake: Handle|launcher: Failed to upgrade package" + tail);
+    EXPECT_EQ(RunLauncher({true, -1, false}),
+              head + "fake: Handle|launcher: Failed to upgrade package" + tail);
     // Closing the last window ends the event loop while the upgrade still runs.
     EXPECT_EQ(RunLauncher({true, 0, true}), head + "fake: Handle" + tail);
 
@@ -126,7 +131,7 @@ int main(int argc, char** argv)
     ::testing::InitGoogleTest(&argc, argv);
     if (::testing::GTEST_FLAG(list_tests))  // no display needed, and no leaks to check
         return RUN_ALL_TESTS();
-    qputenv("HOME", home.path().toUtf8());  // the toolkit's caches and settings
+    qputenv("HOME", home.path().toUtf8());                   // the toolkit's caches and settings
     const QString levels = home.filePath("launcher.debug");  // debug lines from both sides
     QFile level_file(levels);
     const bool ready = QDir().mkpath(QFileInfo(kLog).path()) && level_file.open(QIODevice::WriteOnly) &&

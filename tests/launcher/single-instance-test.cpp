@@ -22,7 +22,8 @@ TEST(SingleInstance, OnlyTheSameBundlePathSeesALiveHolder)
     for (const QString folder : {"a", "b"})
         ASSERT_TRUE(QFile::copy(SINGLE_INSTANCE_PROBE, sandbox.filePath(folder + "/probe")));
     const QByteArray id = (sandbox.filePath("a/probe") + "\n" + QString::number(getuid())).toUtf8();
-    const QString lock_name = "qtsingleapp-probe-" + QCryptographicHash::hash(id, QCryptographicHash::Sha1).toHex() + ".lock";
+    const QString lock_name =
+        "qtsingleapp-probe-" + QCryptographicHash::hash(id, QCryptographicHash::Sha1).toHex() + ".lock";
     for (const QString folder : {"", ".Drovia/"})
         ASSERT_TRUE(QFile(sandbox.filePath(folder + lock_name)).open(QIODevice::WriteOnly));
 

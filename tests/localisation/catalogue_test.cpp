@@ -19,7 +19,8 @@ namespace {
 
 const QStringList kBrandNames = {"Velmora Drovia", "Drovia", "Quelmix", "Korvo"};
 
-// What a translation must keep: placeholders, accelerators ("&&" is a literal &), edge blanks and brand names.
+// What a translation must keep: placeholders, accelerators ("&&" is a literal &), edge blanks and brand
+// names.
 std::string kept(const QString& text)
 {
     static const QRegularExpression kept(QStringLiteral("%L?\\d+|\\[[A-Za-z_]+\\]|(?<!&)&(?!&)|^ | $"));
@@ -56,7 +57,8 @@ TEST_P(CatalogueTest, HoldsOneMessagePerTextKeepingWhatTheProgramNeeds)
     QFile allow_list(QStringLiteral(SAME_AS_ENGLISH_FILE));
     ASSERT_TRUE(allow_list.open(QIODevice::ReadOnly | QIODevice::Text));
     for (const QString& line : QString::fromUtf8(allow_list.readAll()).split('\n'))
-        if (const QStringList fields = line.split('\t'); fields.size() == 2 && (fields[0] == "*" || fields[0] == code))
+        if (const QStringList fields = line.split('\t');
+            fields.size() == 2 && (fields[0] == "*" || fields[0] == code))
             allowed.insert(fields[1]);
     QTranslator translator;
     ASSERT_TRUE(translator.load(path));
@@ -72,7 +74,8 @@ TEST_P(CatalogueTest, HoldsOneMessagePerTextKeepingWhatTheProgramNeeds)
             letters.remove(brand);
         EXPECT_TRUE(code == "enu" ? translation == source
                                   : translation != source || allowed.contains(source) ||
-                                        !letters.contains(QRegularExpression("\\p{L}"))) << "left in English or changed";
+                                        !letters.contains(QRegularExpression("\\p{L}")))
+            << "left in English or changed";
         EXPECT_EQ(kept(translation), kept(source));
     }
 }

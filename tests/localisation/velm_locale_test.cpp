@@ -3,14 +3,31 @@
 #include "VelmLocale.h"
 
 // ":/enu.qm" and ":/deu.qm" are in two resource collections; the German one is switched off and on here.
-static void setGermanCatalogueInstalled(bool on) { if (on) Q_INIT_RESOURCE(locale_deu); else Q_CLEANUP_RESOURCE(locale_deu); }
+static void setGermanCatalogueInstalled(bool on)
+{
+    if (on)
+        Q_INIT_RESOURCE(locale_deu);
+    else
+        Q_CLEANUP_RESOURCE(locale_deu);
+}
 
 // The toolkit reads the system locale once per process, so all that depends on it is in this one test.
 TEST(VelmLocale, MapsLocaleNamesToLanguagesAndFollowsTheSystemLocaleUnlessItsCatalogueIsMissing)
 {
-    for (const auto& [locale, language] : {std::pair{"en_US", "enu"}, {"zh_SG", "chs"}, {"zh_HK", "cht"}, {"zh_MO", "cht"},
-                                           {"pt_BR", "ptb"}, {"pt", "ptg"}, {"pt_AO", "ptb"}, {"nn_NO", "nor"}, {"no", "nor"},
-                                           {"de_CH", "deu"}, {"sv_FI", "sve"}, {"fi_FI", "enu"}, {"C", "enu"}, {"", "enu"}})
+    for (const auto& [locale, language] : {std::pair{"en_US", "enu"},
+                                           {"zh_SG", "chs"},
+                                           {"zh_HK", "cht"},
+                                           {"zh_MO", "cht"},
+                                           {"pt_BR", "ptb"},
+                                           {"pt", "ptg"},
+                                           {"pt_AO", "ptb"},
+                                           {"nn_NO", "nor"},
+                                           {"no", "nor"},
+                                           {"de_CH", "deu"},
+                                           {"sv_FI", "sve"},
+                                           {"fi_FI", "enu"},
+                                           {"C", "enu"},
+                                           {"", "enu"}})
         EXPECT_EQ(VelmLocale::languageForLocaleName(locale).toStdString(), language) << locale;
 
     qputenv("LC_ALL", "de_DE.UTF-8");

@@ -13,7 +13,7 @@
 
 namespace {
 
-const int kStampLength = 16;                    // "Nov 16 20:31:15 "
+const int kStampLength = 16;                          // "Nov 16 20:31:15 "
 const long kBigLine = (1 << 20) + kStampLength + 11;  // stamp, "message N ", 1 MiB and newline
 
 // Thresholds outlive Initialize, so each test has its own component names.
@@ -26,7 +26,8 @@ protected:
     }
     int Open(const QString& name, int slot_count, const QString& level_file = "")
     {
-        return Logger::Initialize(Logger::TYPE_FILE, qPrintable(dir.filePath(name)), qPrintable(level_file), slot_count);
+        return Logger::Initialize(Logger::TYPE_FILE, qPrintable(dir.filePath(name)), qPrintable(level_file),
+                                  slot_count);
     }
     std::vector<std::string> Messages(const QString& name) const  // without their stamps
     {
@@ -36,7 +37,10 @@ protected:
             messages.push_back(line.substr(kStampLength));
         return messages;
     }
-    void LogBig(int number) { Logger::LogMsg(Logger::LEVEL_ERROR, "big", "message %d %s\n", number, big.c_str()); }
+    void LogBig(int number)
+    {
+        Logger::LogMsg(Logger::LEVEL_ERROR, "big", "message %d %s\n", number, big.c_str());
+    }
 
     QTemporaryDir dir;
     const std::string big = std::string(1 << 20, 'z');
@@ -45,15 +49,17 @@ protected:
 TEST_F(LoggerTest, ThresholdsComeFromTheLevelFile)
 {
     // "default_component" in the file must not become the fallback threshold.
-    std::ofstream(dir.filePath("levels").toStdString()) << "lvl_verbose=7\nlvl_silenced=abc\ndefault_component=7\n";
+    std::ofstream(dir.filePath("levels").toStdString())
+        << "lvl_verbose=7\nlvl_silenced=abc\ndefault_component=7\n";
     ASSERT_EQ(Open("launcher.log", 50, dir.filePath("levels")), 0);
     for (const char* component : {"lvl_verbose", "lvl_silenced", "lvl_unlisted"}) {
         for (int level = Logger::LEVEL_ERROR; level <= Logger::LEVEL_DEBUG; ++level)
             Logger::LogMsg(static_cast<Logger::Level>(level), component, "L%d %s\n", level, component);
     }
-    EXPECT_EQ(Messages("launcher.log"),
-              (std::vector<std::string>{"L3 lvl_verbose", "L4 lvl_verbose", "L5 lvl_verbose", "L6 lvl_verbose",
-                                        "L7 lvl_verbose", "L3 lvl_unlisted", "L4 lvl_unlisted"}));
+    EXPECT_EQ(
+        Messages("launcher.log"),
+        (std::vector<std::string>{"L3 lvl_verbose", "L4 lvl_verbose", "L5 lvl_verbose", "L6 lvl_verbose",
+                                  "L7 lvl_verbose", "L3 lvl_unlisted", "L4 lvl_unlisted"}));
 }
 
 TEST_F(LoggerTest, RotationKeepsOneOldFileFewerThanItsSlotsNewestFirstAndFailsSilent)
@@ -82,7 +88,8 @@ TEST_F(LoggerTest, ConcurrentMessagesNeverShareALineAcrossRotations)
     for (char letter = 'a'; letter < 'i'; ++letter) {
         threads.emplace_back([letter] {
             for (int line = 0; line < 4000; ++line)
-                Logger::LogMsg(Logger::LEVEL_ERROR, "threads", "%c %s\n", letter, std::string(width, letter).c_str());
+                Logger::LogMsg(Logger::LEVEL_ERROR, "threads", "%c %s\n", letter,
+                               std::string(width, letter).c_str());
         });
     }
     for (std::thread& thread : threads)

@@ -1,7 +1,7 @@
 // The upgrade service in process: the decision, the installation with its
 // backups, and stopping the client.
-#include <gtest/gtest.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -85,8 +85,8 @@ TEST_F(ServiceTest, UpgradeDecisionFollowsBuildNumbersAndClientPresence)
         {"digits up to a letter", "build_version=12a", "build_version=12", true, false},
         {"no digits", "build_version=abc", "build_version=1", true, true},
         {"no bundle version", "build_version=5", nullptr, true, false},
-        {"only the build decides", "major_version=3\nbuild_version=9", "major_version=4\nbuild_version=9", true,
-         false},
+        {"only the build decides", "major_version=3\nbuild_version=9", "major_version=4\nbuild_version=9",
+         true, false},
         {"another group", "build_version=9", "[Other]\nbuild_version=99", true, false},
     };
     for (const auto& row : rows) {
@@ -115,7 +115,9 @@ TEST_F(ServiceTest, InstallationBacksUpThenCleansUpOrRollsBack)
     const std::string good = MakeArchive(ClientBundle(5, {{"marker", "new"}}));
     // Fails after the marker, before the version file.
     const std::string bad = MakeArchive(ClientBundle(5, {{"marker", "new"}, {"../refused", "out"}}));
-    const auto backup = [this](char index) { return user_app + "_tmp" + (index == '0' ? "" : QString(index)); };
+    const auto backup = [this](char index) {
+        return user_app + "_tmp" + (index == '0' ? "" : QString(index));
+    };
     // Whether build 4 is installed, the backup names earlier runs left (by index), and then the
     // marker of the installation, the backup names left by the installation and once the run is over.
     const struct {
@@ -165,14 +167,16 @@ TEST_F(ServiceTest, ReadOnlyFoldersInPackagesStayWritableAndLeaveNoBackups)
     InstallForUser(1);
     std::vector<PackageEntry> entries;
     for (int build = 2; build <= 13; ++build) {
-        entries = ClientBundle(build, {{"Frameworks", "", EntryKind::Folder, 0555}, {"Frameworks/lib", "", {}, 0444}});
+        entries = ClientBundle(
+            build, {{"Frameworks", "", EntryKind::Folder, 0555}, {"Frameworks/lib", "", {}, 0444}});
         Ship(build, MakeArchive(entries));
         MacService service;
         ASSERT_EQ(service.PrepareUserEnv(), 0) << "upgrade to " << build;
         service.RemoveAgedFolders();
     }
     EXPECT_EQ(SnapshotOfFolder(user_app), SnapshotOfEntries(entries));
-    EXPECT_EQ(QDir(user_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"Drovia.app"});
+    EXPECT_EQ(QDir(user_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{"Drovia.app"});
     EXPECT_TRUE(QFileInfo(user_app + "/Frameworks").permissions() & QFile::WriteOwner);
 }
 
@@ -197,7 +201,8 @@ TEST_F(ServiceTest, DamagedPackagesLeaveTheOldInstallationAndNothingElse)
         Ship(5, bytes);
 
         MacService service;
-        const TreeSnapshot expected = service.PrepareUserEnv() == 0 ? SnapshotOfEntries(entries) : old_installation;
+        const TreeSnapshot expected =
+            service.PrepareUserEnv() == 0 ? SnapshotOfEntries(entries) : old_installation;
         service.RemoveAgedFolders();
 
         EXPECT_EQ(SnapshotOfFolder(user_app), expected) << "variant " << variant;
@@ -254,10 +259,27 @@ TEST_F(ServiceTest, StopSequenceSignalsOnlyTheClient)
         {"negative, 4242 modulo 2^32", "pid=-4294963054\n", nullptr, {}, {}, 0, nullptr},
         {"negative pid", "pid=-4242\n", nullptr, {}, {}, 0, nullptr},
         {"number too large", "pid=99999999999\n", nullptr, {}, {}, 0, nullptr},
-        {"another program", "pid=4343\n", nullptr, {}, {}, 0, "4343 runs '/usr/bin/editor', not the Drovia client"},
+        {"another program",
+         "pid=4343\n",
+         nullptr,
+         {},
+         {},
+         0,
+         "4343 runs '/usr/bin/editor', not the Drovia client"},
         {"gone on SIGTERM", "pid = 4242 # client\n", nullptr, {ESRCH}, {SIGTERM}, 0, nullptr},
-        {"zero padding", std::string("pid=4242\n\0\0\0", 12), nullptr, {0, 0, ESRCH}, {SIGTERM, 0, 0}, 1, nullptr},
-        {"refused", "pid=4242\n", nullptr, {EPERM, EPERM}, {SIGTERM, 0, 0, 0, 0, 0, SIGKILL}, 5,
+        {"zero padding",
+         std::string("pid=4242\n\0\0\0", 12),
+         nullptr,
+         {0, 0, ESRCH},
+         {SIGTERM, 0, 0},
+         1,
+         nullptr},
+        {"refused",
+         "pid=4242\n",
+         nullptr,
+         {EPERM, EPERM},
+         {SIGTERM, 0, 0, 0, 0, 0, SIGKILL},
+         5,
          "kill: Operation not permitted (1)"},
         {"started, no pid file yet", "", "pid=4242\n", {0, ESRCH}, {SIGTERM, 0}, 0, "does not exist"},
         {"pid file and record agree", "pid=4242\n", "pid=4242\n", {ESRCH}, {SIGTERM}, 0, nullptr},
@@ -267,7 +289,8 @@ TEST_F(ServiceTest, StopSequenceSignalsOnlyTheClient)
         QFile::remove(user_folder + "/" + layout::kPidFile);
         QFile::remove(user_folder + "/" + layout::kLaunchRecord);
         ASSERT_TRUE(row.pid_file.empty() || WriteBytes(user_folder + "/" + layout::kPidFile, row.pid_file));
-        ASSERT_TRUE(!row.launch_record || WriteBytes(user_folder + "/" + layout::kLaunchRecord, row.launch_record));
+        ASSERT_TRUE(!row.launch_record ||
+                    WriteBytes(user_folder + "/" + layout::kLaunchRecord, row.launch_record));
         const LogCapture log;
         FakeSignalService service(user_app + "/" + layout::kClientExecutable);
         service.errors = row.errors;
@@ -292,7 +315,8 @@ TEST_F(ServiceTest, OddFilesWhereVersionAndPidFilesBelongAreNeverRead)
 
     const QString pid_file = user_folder + "/" + layout::kPidFile;
     for (const bool fifo : {true, false}) {
-        ASSERT_TRUE(fifo ? mkfifo(qPrintable(pid_file), 0644) == 0 : QFile::remove(pid_file) && QDir().mkpath(pid_file));
+        ASSERT_TRUE(fifo ? mkfifo(qPrintable(pid_file), 0644) == 0
+                         : QFile::remove(pid_file) && QDir().mkpath(pid_file));
         const LogCapture log;
         FakeSignalService service(user_app + "/" + layout::kClientExecutable);
         service.StopService();

@@ -23,7 +23,8 @@ std::string FileRecord(const std::string& content)
 {
     if (content.size() <= kContentShown)
         return "f:" + content;
-    return "f:" + std::to_string(content.size()) + " bytes #" + std::to_string(std::hash<std::string>()(content));
+    return "f:" + std::to_string(content.size()) + " bytes #" +
+           std::to_string(std::hash<std::string>()(content));
 }
 
 mode_t FileType(EntryKind kind)
@@ -44,7 +45,8 @@ la_ssize_t AppendToString(archive*, void* sink, const void* data, size_t size)
 
 bool WriteEntry(archive* writer, const PackageEntry& item)
 {
-    std::unique_ptr<archive_entry, decltype(&archive_entry_free)> entry(archive_entry_new(), archive_entry_free);
+    std::unique_ptr<archive_entry, decltype(&archive_entry_free)> entry(archive_entry_new(),
+                                                                        archive_entry_free);
     archive_entry_set_pathname_utf8(entry.get(), item.name.c_str());
     archive_entry_set_filetype(entry.get(), FileType(item.kind));
     archive_entry_set_perm(entry.get(), static_cast<mode_t>(item.mode));
@@ -68,12 +70,13 @@ std::string MakeArchive(const std::vector<PackageEntry>& entries, int format, in
     std::unique_ptr<archive, decltype(&archive_write_free)> writer(archive_write_new(), archive_write_free);
     // Names flagged as UTF-8 in a zip, as bsdtar writes them; no padding after
     // the data, which the zstd reader would take for a frame.
-    bool written = archive_write_set_format(writer.get(), format) == ARCHIVE_OK &&
-                   (format != ARCHIVE_FORMAT_ZIP ||
-                    archive_write_set_format_option(writer.get(), "zip", "hdrcharset", "UTF-8") == ARCHIVE_OK) &&
-                   archive_write_add_filter(writer.get(), filter) == ARCHIVE_OK &&
-                   archive_write_set_bytes_in_last_block(writer.get(), 1) == ARCHIVE_OK &&
-                   archive_write_open(writer.get(), &bytes, nullptr, AppendToString, nullptr) == ARCHIVE_OK;
+    bool written =
+        archive_write_set_format(writer.get(), format) == ARCHIVE_OK &&
+        (format != ARCHIVE_FORMAT_ZIP ||
+         archive_write_set_format_option(writer.get(), "zip", "hdrcharset", "UTF-8") == ARCHIVE_OK) &&
+        archive_write_add_filter(writer.get(), filter) == ARCHIVE_OK &&
+        archive_write_set_bytes_in_last_block(writer.get(), 1) == ARCHIVE_OK &&
+        archive_write_open(writer.get(), &bytes, nullptr, AppendToString, nullptr) == ARCHIVE_OK;
     for (const PackageEntry& item : entries)
         written = written && WriteEntry(writer.get(), item);
     written = written && archive_write_close(writer.get()) == ARCHIVE_OK;
@@ -104,7 +107,8 @@ TreeSnapshot SnapshotOfEntries(const std::vector<PackageEntry>& entries)
     TreeSnapshot tree;
     for (const PackageEntry& item : entries) {
         // Folders that only deeper names imply exist as well.
-        for (size_t slash = item.name.find('/'); slash != std::string::npos; slash = item.name.find('/', slash + 1))
+        for (size_t slash = item.name.find('/'); slash != std::string::npos;
+             slash = item.name.find('/', slash + 1))
             tree.emplace(item.name.substr(0, slash), kFolder);
         switch (item.kind) {
         case EntryKind::Folder: tree[item.name] = kFolder; break;
@@ -122,7 +126,8 @@ bool WriteEntries(const QString& folder, const std::vector<PackageEntry>& entrie
         const QString path = folder + "/" + QString::fromStdString(item.name);
         if (item.kind != EntryKind::File && item.kind != EntryKind::Folder)
             return false;
-        const bool written = item.kind == EntryKind::Folder ? QDir().mkpath(path) : WriteBytes(path, item.content);
+        const bool written =
+            item.kind == EntryKind::Folder ? QDir().mkpath(path) : WriteBytes(path, item.content);
         if (!written || chmod(path.toUtf8().constData(), static_cast<mode_t>(item.mode)) != 0)
             return false;
     }

@@ -65,7 +65,8 @@ std::vector<PackageEntry> LauncherSandbox::ClientBundle(int build, const std::ve
 {
     std::vector<PackageEntry> entries = {{layout::kClientExecutable, ReadBytes(STAND_IN_CLIENT), {}, 0755}};
     entries.insert(entries.end(), extra.begin(), extra.end());
-    entries.push_back({std::string(layout::kResourcesFolder) + "/" + layout::kVersionFileName, VersionFile(build)});
+    entries.push_back(
+        {std::string(layout::kResourcesFolder) + "/" + layout::kVersionFileName, VersionFile(build)});
     return entries;
 }
 
@@ -105,7 +106,8 @@ void LauncherSandbox::StartLauncher(QProcess& launcher, const QProcessEnvironmen
 {
     launcher.setProcessEnvironment(env);
     launcher.setWorkingDirectory(sandbox.path());
-    launcher.start((bundle_copy.isEmpty() ? QString(layout::kBundleName) : bundle_copy) + kLauncher, QStringList());
+    launcher.start((bundle_copy.isEmpty() ? QString(layout::kBundleName) : bundle_copy) + kLauncher,
+                   QStringList());
 }
 
 LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env)
@@ -171,8 +173,9 @@ QStringList LauncherSandbox::RunningBuilds() const
 {
     const QString record = QString::fromStdString(ReadBytes(UserPath(layout::kLaunchRecord)));
     const QString launched = " " + record.section('=', 1).trimmed();
-    WaitUntil([&] { return launched == " " || StartLines(UserPath("started")).join('\n').contains(launched); },
-              kClientStartTimeoutMs);
+    WaitUntil(
+        [&] { return launched == " " || StartLines(UserPath("started")).join('\n').contains(launched); },
+        kClientStartTimeoutMs);
     QStringList builds;
     for (const QString& line : StartLines(UserPath("started"))) {
         if (!QFile::symLinkTarget("/proc/" + line.section(' ', 1, 1) + "/exe").isEmpty())

@@ -34,7 +34,8 @@ protected:
     void MoveToNewHome(const QString& name);
 
     QProcessEnvironment Environment() const;
-    void StartLauncher(QProcess& launcher, const QProcessEnvironment& env, const QString& bundle_copy = {}) const;
+    void StartLauncher(QProcess& launcher, const QProcessEnvironment& env,
+                       const QString& bundle_copy = {}) const;
     LauncherRun RunLauncher(const QProcessEnvironment& env);
     LauncherRun RunLauncher() { return RunLauncher(Environment()); }
     // The installed client, started detached as an earlier session would have.

@@ -39,7 +39,8 @@ int main(int, char** argv)
 
     const std::string folder = std::string(std::getenv("HOME")) + "/" + layout::kUserFolder + "/";
     // One write with O_APPEND: the lines of clients that start together never mix.
-    std::ofstream(folder + "started", std::ios::app) << BuildOfOwnBundle(argv[0]) + " " + std::to_string(getpid()) + "\n";
+    std::ofstream(folder + "started", std::ios::app)
+        << BuildOfOwnBundle(argv[0]) + " " + std::to_string(getpid()) + "\n";
     const std::string pid_file = folder + layout::kPidFile;
     std::ofstream(pid_file + ".partial") << "pid=" << getpid() << "\n";
     std::rename((pid_file + ".partial").c_str(), pid_file.c_str());  // a reader never sees half a pid

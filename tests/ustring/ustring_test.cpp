@@ -10,8 +10,14 @@ public:
     static unsigned long wdata_len(const ustring& s) { return s.wdata_len; }
 };
 using UI = UstringInspector;
-static std::u16string utf16_of(const ustring& s) { return reinterpret_cast<const char16_t*>(s.c_str_utf16()); }
-static const unsigned short* units(const char16_t* text) { return reinterpret_cast<const unsigned short*>(text); }
+static std::u16string utf16_of(const ustring& s)
+{
+    return reinterpret_cast<const char16_t*>(s.c_str_utf16());
+}
+static const unsigned short* units(const char16_t* text)
+{
+    return reinterpret_cast<const unsigned short*>(text);
+}
 
 TEST(Ustring, GrowsToExactFitAndShrinksWhenUnderHalfUsed)
 {
@@ -62,13 +68,25 @@ TEST(Ustring, AppendsAndAssignsItself)
 TEST(Ustring, SearchesStopAtTheEdges)
 {
     const ustring s("abcdef"), abc("abc"), padded("ab  "), empty;
-    const unsigned long npos = ustring::npos, cases[][2] = {
-        {s.find("", 3), 3}, {s.find('x', 6), npos}, {s.find("", 6), npos}, {s.find(std::string("e\0z", 3)), 4},
-        {s.find_first_of(""), npos}, {s.find_first_not_of("", 0), 0}, {s.find_first_not_of("abcdef"), npos},
-        {ustring("a\xC3\xA8").find_first_of("\xC3\xA9"), 1}, {abc.rfind(""), 2}, {abc.rfind("bc", 1), 1},
-        {abc.rfind(std::string("bc"), 0), npos}, {abc.rfind('a', 99), 0}, {padded.find_last_not_of(' '), 1},
-        {padded.find_last_not_of(""), 3}, {padded.find_last_of(" ", 1), npos}, {padded.find_last_of(""), npos},
-        {empty.rfind(""), npos}, {empty.find_last_not_of(""), npos}};
+    const unsigned long npos = ustring::npos,
+                        cases[][2] = {{s.find("", 3), 3},
+                                      {s.find('x', 6), npos},
+                                      {s.find("", 6), npos},
+                                      {s.find(std::string("e\0z", 3)), 4},
+                                      {s.find_first_of(""), npos},
+                                      {s.find_first_not_of("", 0), 0},
+                                      {s.find_first_not_of("abcdef"), npos},
+                                      {ustring("a\xC3\xA8").find_first_of("\xC3\xA9"), 1},
+                                      {abc.rfind(""), 2},
+                                      {abc.rfind("bc", 1), 1},
+                                      {abc.rfind(std::string("bc"), 0), npos},
+                                      {abc.rfind('a', 99), 0},
+                                      {padded.find_last_not_of(' '), 1},
+                                      {padded.find_last_not_of(""), 3},
+                                      {padded.find_last_of(" ", 1), npos},
+                                      {padded.find_last_of(""), npos},
+                                      {empty.rfind(""), npos},
+                                      {empty.find_last_not_of(""), npos}};
     for (const auto& c : cases)
         EXPECT_EQ(c[0], c[1]) << "case " << &c - cases;
 }

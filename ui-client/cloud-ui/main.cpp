@@ -20,8 +20,8 @@ QString PidFilePath()
 // The executable sits in Contents/MacOS, two folders below the bundle.
 QString BundleVersionFile()
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../../" + layout::kResourcesFolder + "/" +
-                           layout::kVersionFileName);
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../../" + layout::kResourcesFolder +
+                           "/" + layout::kVersionFileName);
 }
 
 }  // namespace

@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-PidFile::PidFile(const QString& path) : path(path) {}
+PidFile::PidFile(const QString& path) : path(path)
+{
+}
 
 PidFile::~PidFile()
 {

@@ -76,11 +76,10 @@ int MoveAppAside(const ustring& app, ustring& backup)
         backup = GetAppBackupDir(app, index);
         if (FSRename(app, backup, false) == FS_OK)
             return index;
-        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'",
-                app.c_str_utf8(), backup.c_str_utf8());
+        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'", app.c_str_utf8(), backup.c_str_utf8());
     }
-    LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting",
-            app.c_str_utf8(), backup.c_str_utf8());
+    LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting", app.c_str_utf8(),
+            backup.c_str_utf8());
     return -1;
 }
 
@@ -147,8 +146,9 @@ void Service::LoadTargetVersion()
     const ustring path = GetRootDroviaResourceInstallPath() + "/" + layout::kVersionFileName;
     ReadVersionFile(path, target_major_version, target_minor_version, target_build_version,
                     target_icon_overlay_version);
-    LOG_MSG(INFO, "target_version = (%s, %s, %s, %s)",
-            target_major_version.c_str_utf8(), target_minor_version.c_str_utf8(), target_build_version.c_str_utf8(), target_icon_overlay_version.c_str_utf8());
+    LOG_MSG(INFO, "target_version = (%s, %s, %s, %s)", target_major_version.c_str_utf8(),
+            target_minor_version.c_str_utf8(), target_build_version.c_str_utf8(),
+            target_icon_overlay_version.c_str_utf8());
 }
 
 void Service::LoadSourceVersion()
@@ -160,8 +160,9 @@ void Service::LoadSourceVersion()
     }
     ReadVersionFile(path, source_major_version, source_minor_version, source_build_version,
                     source_icon_overlay_version);
-    LOG_MSG(INFO, "source_version = (%s, %s, %s, %s)",
-            source_major_version.c_str_utf8(), source_minor_version.c_str_utf8(), source_build_version.c_str_utf8(), source_icon_overlay_version.c_str_utf8());
+    LOG_MSG(INFO, "source_version = (%s, %s, %s, %s)", source_major_version.c_str_utf8(),
+            source_minor_version.c_str_utf8(), source_build_version.c_str_utf8(),
+            source_icon_overlay_version.c_str_utf8());
 }
 
 int Service::ExtractPackage()

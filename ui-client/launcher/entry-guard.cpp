@@ -50,7 +50,8 @@ bool StaysInside(const std::string& name, const char* target)
 bool IsSpecialFile(archive_entry* entry)
 {
     const mode_t type = archive_entry_filetype(entry);
-    return archive_entry_hardlink(entry) == nullptr && type != AE_IFREG && type != AE_IFDIR && type != AE_IFLNK;
+    return archive_entry_hardlink(entry) == nullptr && type != AE_IFREG && type != AE_IFDIR &&
+           type != AE_IFLNK;
 }
 
 }  // namespace

@@ -137,8 +137,7 @@ int Extractor::Extract()
         LOG_MSG(ERROR, "Invalid Argument");
         return -1;
     }
-    LOG_MSG(DEBUG, "decompress from '%s' to '%s'",
-            archive_path.c_str_utf8(), dest_path.c_str_utf8());
+    LOG_MSG(DEBUG, "decompress from '%s' to '%s'", archive_path.c_str_utf8(), dest_path.c_str_utf8());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kEnvironmentPreparing));
     const Utf8Names utf8_names;
 
@@ -152,14 +151,12 @@ int Extractor::Extract()
     ReadHandle reader(archive_read_new(), archive_read_free);
     WriteHandle writer(archive_write_disk_new(), archive_write_free);
     // Setting options only fails on a broken handle, so it counts as allocation.
-    if (!reader || !writer ||
-        archive_write_disk_set_options(writer.get(), kDiskWriteOptions) != ARCHIVE_OK) {
+    if (!reader || !writer || archive_write_disk_set_options(writer.get(), kDiskWriteOptions) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "Allocate extractor failed");
         return -1;
     }
     if (OpenForReading(reader.get(), archive_path) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "Failed to read file '%s' ('%s')",
-                archive_path.c_str_utf8(), ErrorText(reader.get()));
+        LOG_MSG(ERROR, "Failed to read file '%s' ('%s')", archive_path.c_str_utf8(), ErrorText(reader.get()));
         return -1;
     }
     return ExtractEntries(reader.get(), writer.get(), dest_path, total);

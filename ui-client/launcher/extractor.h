@@ -23,7 +23,7 @@ public:
     // Copies the current entry's data block by block; 0 or -1.
     int copy_data(archive* reader, archive* writer);
 
-    ustring dest_path;     // must exist before Extract
+    ustring dest_path;  // must exist before Extract
     ustring archive_path;
 };
 

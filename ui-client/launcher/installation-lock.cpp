@@ -18,7 +18,9 @@ const mode_t kLockFileMode = 0600;
 
 }  // namespace
 
-InstallationLock::InstallationLock(const ustring& path) : path(path) {}
+InstallationLock::InstallationLock(const ustring& path) : path(path)
+{
+}
 
 InstallationLock::~InstallationLock()
 {

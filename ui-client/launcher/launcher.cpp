@@ -12,7 +12,9 @@ const int kPercentScale = 100;
 
 }  // namespace
 
-Launcher::Launcher() : Launcher(new Worker) {}
+Launcher::Launcher() : Launcher(new Worker)
+{
+}
 
 Launcher::Launcher(Worker* worker) : worker(worker)
 {

@@ -17,11 +17,11 @@ constexpr char kStyleSheet[] =
 
 }  // namespace
 
-ProcessingProgressDialog::ProcessingProgressDialog()
-    : QProgressDialog(nullptr, Qt::WindowFlags())
+ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags())
 {
     const QFont font(QStringLiteral("Arial"), -1, -1, false);
-    const QString icon_path = ToQString(Service::GetRootDroviaResourceInstallPath()) + "/" + layout::kDialogIcon;
+    const QString icon_path =
+        ToQString(Service::GetRootDroviaResourceInstallPath()) + "/" + layout::kDialogIcon;
 
     setWindowTitle(StrTable::LoadStr(StrTable::kAppName));
     setWindowIcon(QIcon(icon_path));

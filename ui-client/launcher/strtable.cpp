@@ -21,6 +21,7 @@ struct Row {
 // A row's position is its id, which the rest of the client stores and
 // passes around: never reorder or remove rows. The texts are the source
 // texts of the catalogues, so changing one orphans its translations.
+// clang-format off
 const Row kRows[] = {
     /*   0 */ {"msi_ready_dlg_text",
                   QT_TRANSLATE_NOOP("global", "Click Install to begin the installation. Click Back "
@@ -746,9 +747,9 @@ const Row kRows[] = {
     /* 465 */ {"desc_drov_env_preparation_done", QT_TRANSLATE_NOOP("global", "Drovia is ready.")},
     /* 466 */ {"management_proxy_cancel_btn", QT_TRANSLATE_NOOP("global", "Cancel")},
 };
+// clang-format on
 
-static_assert(sizeof(kRows) / sizeof(kRows[0]) == kRowCount,
-              "every id needs exactly one row");
+static_assert(sizeof(kRows) / sizeof(kRows[0]) == kRowCount, "every id needs exactly one row");
 
 }  // namespace
 

@@ -8,8 +8,8 @@
 namespace StrTable {
 
 // The rows the launcher itself shows.
-const int kAppName = 202;                    // app_name: the dialog's title
-const int kEnvironmentPreparing = 393;       // desc_drov_env_preparing: its first label
+const int kAppName = 202;                     // app_name: the dialog's title
+const int kEnvironmentPreparing = 393;        // desc_drov_env_preparing: its first label
 const int kEnvironmentPreparationDone = 465;  // desc_drov_env_preparation_done: its last
 
 // Fills the table; must run once before LoadStr or LookupStrID.

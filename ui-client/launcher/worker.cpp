@@ -19,7 +19,9 @@ const int kProgressComplete = 100;
 
 }  // namespace
 
-Worker::Worker() : Worker(new MacService) {}
+Worker::Worker() : Worker(new MacService)
+{
+}
 
 Worker::Worker(Service* service) : service(service)
 {
@@ -101,6 +103,7 @@ void Worker::FinishPendingWork()
 {
     if (thread == nullptr || !thread->isRunning())
         return;
-    QMetaObject::invokeMethod(this, [this] { thread->quit(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { thread->quit(); }, Qt::QueuedConnection);
     thread->wait();
 }

@@ -30,9 +30,10 @@ const int kNamePrefixLength = 6;
 QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool GUIenabled)
     : QApplication(argc, argv, GUIenabled)
 {
-    instance_lock = open(QFile::encodeName(instanceLockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    other_instance_running = instance_lock >= 0 && flock(instance_lock, LOCK_EX | LOCK_NB) != 0 &&
-                             errno == EWOULDBLOCK;
+    instance_lock =
+        open(QFile::encodeName(instanceLockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    other_instance_running =
+        instance_lock >= 0 && flock(instance_lock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 QtSingleApplication::~QtSingleApplication()
@@ -52,14 +53,15 @@ QString QtSingleApplication::instanceLockPath()
 {
     const QString app_path = QCoreApplication::applicationFilePath();
     const QString user_id = QString::number(::getuid());
-    const QByteArray digest = QCryptographicHash::hash((app_path + QLatin1Char('\n') + user_id).toUtf8(),
-                                                       QCryptographicHash::Sha1);
+    const QByteArray digest =
+        QCryptographicHash::hash((app_path + QLatin1Char('\n') + user_id).toUtf8(), QCryptographicHash::Sha1);
 
     QString prefix = app_path.section(QLatin1Char('/'), -1);
     prefix.remove(QRegularExpression(QStringLiteral("[^a-zA-Z]")));
     prefix.truncate(kNamePrefixLength);
 
-    const QString name = QStringLiteral("qtsingleapp-%1-%2.lock").arg(prefix, QString::fromLatin1(digest.toHex()));
+    const QString name =
+        QStringLiteral("qtsingleapp-%1-%2.lock").arg(prefix, QString::fromLatin1(digest.toHex()));
     return QDir(lockFolder()).filePath(name);
 }
 

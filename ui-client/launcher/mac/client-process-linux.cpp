@@ -50,8 +50,8 @@ bool DetachSession(posix_spawnattr_t* attributes)
     sigemptyset(&defaults);
     for (int signal_number : kDefaultSignals)
         sigaddset(&defaults, signal_number);
-    return posix_spawnattr_setflags(attributes,
-                                    POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF) == 0 &&
+    return posix_spawnattr_setflags(
+               attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF) == 0 &&
            posix_spawnattr_setsigmask(attributes, &none) == 0 &&
            posix_spawnattr_setsigdefault(attributes, &defaults) == 0;
 }

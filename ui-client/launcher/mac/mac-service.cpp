@@ -112,9 +112,7 @@ void MacService::StopService()
     case PID_FILE_UNREADABLE:
         LOG_MSG(NOTE, "Failed to read pid file '%s', not exist ?", pid_file.c_str_utf8());
         break;
-    case PID_FILE_READ:
-        StopClient(pid);
-        break;
+    case PID_FILE_READ: StopClient(pid); break;
     }
     // A client that another launcher started moments ago may not have
     // written its pid file yet.
