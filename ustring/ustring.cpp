@@ -113,7 +113,7 @@ std::string_view TextOf(const ustring& s)
     return std::string_view(s.c_str(), s.size());
 }
 
-int32_t icu_capacity(unsigned long capacity)
+int32_t IcuCapacity(unsigned long capacity)
 {
     return static_cast<int32_t>(std::min<unsigned long>(capacity, std::numeric_limits<int32_t>::max()));
 }
@@ -245,7 +245,7 @@ int ustring::convert_from_data() const
     const unsigned long length = IcuLength(units);
     realloc_wdata(length + 1);
     status = U_ZERO_ERROR;
-    u_strFromUTF8(wdata, icu_capacity(wdata_capacity), nullptr, data, -1, &status);
+    u_strFromUTF8(wdata, IcuCapacity(wdata_capacity), nullptr, data, -1, &status);
     if (U_FAILURE(status)) {
         Warn("u_strFromUTF8", status, kFromUtf8WarningLine);
         clear_wdata();
@@ -264,7 +264,7 @@ int ustring::convert_from_wdata()
     const unsigned long length = IcuLength(bytes);
     realloc_data(length + 1);
     status = U_ZERO_ERROR;
-    u_strToUTF8(data, icu_capacity(data_capacity), nullptr, wdata, -1, &status);
+    u_strToUTF8(data, IcuCapacity(data_capacity), nullptr, wdata, -1, &status);
     if (U_FAILURE(status)) {
         Warn("u_strToUTF8", status, kToUtf8WarningLine);
         clear();
@@ -811,7 +811,7 @@ ustring ustring::normalize(const ustring& src, normalization_form form)
         IcuLength(unorm2_normalize(normalizer, src.c_str_utf16(), -1, nullptr, 0, &status));
     result.realloc_wdata(length + 1);
     status = U_ZERO_ERROR;
-    unorm2_normalize(normalizer, src.c_str_utf16(), -1, result.wdata, icu_capacity(result.wdata_capacity),
+    unorm2_normalize(normalizer, src.c_str_utf16(), -1, result.wdata, IcuCapacity(result.wdata_capacity),
                      &status);
     if (U_FAILURE(status)) {
         Warn("unorm2_normalize", status, kNormalizeWarningLine);
