@@ -41,7 +41,7 @@ TEST_F(DialogUnderX, ShowsInTheUsersLanguageWhileTheOldClientStops)
         MoveToNewHome(QString("home-") + locales[run]);
         InstallForUser(ClientBundle(4));
         Ship(5);
-        StartClient("slow-exit");
+        StartClient("ignore-term");  // five seconds of dialog, then SIGKILL
         QProcessEnvironment env = Environment();
         env.insert("QT_QPA_PLATFORM", "xcb");
         env.insert("DISPLAY", display);
