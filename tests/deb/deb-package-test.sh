@@ -6,7 +6,8 @@
 # old client runs (a screenshot keeps the dialog), and removes the package.
 #   deb-package-test.sh <build folder> <folder for the screenshot>
 # The work runs as the first process of a PID namespace of its own, so every
-# process it starts ends with it; the package is removed however it ends.
+# process it starts ends with it, with a /tmp and a network of its own; the
+# package is removed however it ends.
 set -euo pipefail
 
 BUILD="$1"
@@ -37,8 +38,11 @@ if [ "${IN_PID_NAMESPACE:-}" != 1 ]; then
         skip "$NAME is already on this machine; the test installs and removes only a package of its own"
     fi
     unshare -pf --mount-proc true 2> /dev/null || skip "unshare cannot create a PID namespace here"
-    IN_PID_NAMESPACE=1 exec unshare -pf --kill-child=TERM --mount-proc "$0" "$@"
+    IN_PID_NAMESPACE=1 exec unshare -pf --net --kill-child=TERM --mount-proc "$0" "$@"
 fi
+# A /tmp and a network of its own: Xvfb, which sees no process outside the
+# namespace, would otherwise take another X server's display for stale.
+mount -t tmpfs -o mode=1777 drovia-tmp /tmp
 
 SCRATCH="$(mktemp -d)"
 export HOME="$SCRATCH/home" TMPDIR="$SCRATCH/tmp" LC_ALL=C LANG=C

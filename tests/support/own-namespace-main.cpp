@@ -1,8 +1,8 @@
 // main() of the end-to-end tests. Where the kernel allows it (as root), each
-// test runs in PID and mount namespaces of its own: the namespace's first
-// process only reaps, the test runs in its child, and when the test ends the
-// kernel ends whatever the namespace still holds. Elsewhere the tests that
-// need the namespace skip.
+// test runs in PID, mount and network namespaces of its own, with a /tmp of
+// its own: the namespace's first process only reaps, the test runs in its
+// child, and when the test ends the kernel ends whatever the namespace still
+// holds. Elsewhere the tests that need the namespace skip.
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <signal.h>
@@ -38,10 +38,13 @@ void EnterOwnNamespace()
     if (first != 0)
         _exit(first < 0 ? 1 : StatusOf(first));
     prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test killed for its time-out takes the namespace along
-    // The mounts are the namespace's own: the process outside keeps its /proc.
-    const bool own_proc = unshare(CLONE_NEWNS) == 0 &&
+    // Mounts, /tmp and the network (with it the X servers' abstract sockets) are
+    // the namespace's own as well: an X server started here cannot take the
+    // display of one outside for stale, since it sees none of its processes.
+    const bool own_proc = unshare(CLONE_NEWNS | CLONE_NEWNET) == 0 &&
                           mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                          mount("proc", "/proc", "proc", MS_NOSUID | MS_NODEV | MS_NOEXEC, nullptr) == 0;
+                          mount("proc", "/proc", "proc", MS_NOSUID | MS_NODEV | MS_NOEXEC, nullptr) == 0 &&
+                          mount("drovia-tmp", "/tmp", "tmpfs", MS_NOSUID | MS_NODEV, "mode=1777") == 0;
     const pid_t test = own_proc ? fork() : -1;
     if (test < 0)
         _exit(1);
