@@ -120,7 +120,9 @@ old_client="$(client_pid)"
 # A watcher samples the per-user copy: the new build must never be there
 # while the old client still runs.
 dpkg -i "$NEW" > /dev/null
-Xvfb -displayfd 3 -nolisten tcp -screen 0 640x480x24 3> "$SCRATCH/display" 2> /dev/null &
+# -noreset: a server that resets when its last client leaves can drop one
+# that connects in that moment.
+Xvfb -displayfd 3 -nolisten tcp -noreset -screen 0 640x480x24 3> "$SCRATCH/display" 2> /dev/null &
 xvfb=$!
 wait_until test -s "$SCRATCH/display" || fail "Xvfb reported no display"
 export DISPLAY=":$(cat "$SCRATCH/display")"
