@@ -68,6 +68,7 @@ TEST_F(Installation, TwoBundleCopiesTogetherEndWithOneInstallationAndOneClient)
         StartLauncher(downloaded, Environment(), downloads);
         EXPECT_TRUE(installed.waitForFinished() && downloaded.waitForFinished());
         EXPECT_EQ(installed.exitCode() + downloaded.exitCode(), 0);
+        EXPECT_TRUE(LogMessages().filter("already launched").isEmpty()) << "one copy kept the other out";
         ExpectOneCompleteInstallation("trial " + std::to_string(trial));
     }
 }

@@ -1,7 +1,9 @@
 // Whole runs of the launcher: installing, finding nothing to do, rolling
 // back on a full disk, logging without a log folder.
 #include <sys/mount.h>
+#include <unistd.h>
 
+#include <QCryptographicHash>
 #include <QFileInfo>
 
 #include "files.h"
@@ -11,10 +13,17 @@ namespace {
 
 using LauncherRuns = LauncherSandbox;
 
+// Empty files of the single-instance lock's name, as another user could plant
+// in the shared temporary folder or a killed launcher leave, stop nothing.
 TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
 {
     Ship(5);
     ASSERT_TRUE(WriteBytes(UserPath("app/left-over"), "aged"));
+    const QString id =
+        QFileInfo(bundle + "/Contents/MacOS/launcher").canonicalFilePath() + "\n" + QString::number(getuid());
+    const QString lock = "qtsingleapp-launch-" +
+                         QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex() + ".lock";
+    ASSERT_TRUE(WriteBytes(sandbox.filePath("tmp/" + lock), "") && WriteBytes(UserPath(lock), ""));
 
     const LauncherRun first = RunLauncher();
     EXPECT_EQ(first.exit_code, 0) << first.err.toStdString();

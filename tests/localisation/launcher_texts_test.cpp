@@ -22,11 +22,10 @@ TEST(StrTable, LoadsEnglishOrTheInstalledTranslationWithRealEscapesAndLooksUpKey
     QCoreApplication::removeTranslator(&translator);
     EXPECT_EQ(StrTable::LoadStr(465).toStdString(), "Drovia is ready.");
 
-    for (const auto& [key, id] : {std::pair{"APP_NAME", 202},
-                                  {"nsis_not_admin_confirm", 284},
-                                  {"msi_ready_dlg_text", 0},
-                                  {"management_proxy_cancel_btn", 466},
-                                  {"app_name ", -1},
-                                  {"no_such_key", -1}})
+    const std::pair<const char*, int> ids[] = {
+        {"APP_NAME", 202},         {"nsis_not_admin_confirm", 284},
+        {"msi_ready_dlg_text", 0}, {"management_proxy_cancel_btn", 466},
+        {"app_name ", -1},         {"no_such_key", -1}};
+    for (const auto& [key, id] : ids)
         EXPECT_EQ(StrTable::LookupStrID(QString::fromLatin1(key)), id) << key;
 }

@@ -14,20 +14,11 @@ static void setGermanCatalogueInstalled(bool on)
 // The toolkit reads the system locale once per process, so all that depends on it is in this one test.
 TEST(VelmLocale, MapsLocaleNamesToLanguagesAndFollowsTheSystemLocaleUnlessItsCatalogueIsMissing)
 {
-    for (const auto& [locale, language] : {std::pair{"en_US", "enu"},
-                                           {"zh_SG", "chs"},
-                                           {"zh_HK", "cht"},
-                                           {"zh_MO", "cht"},
-                                           {"pt_BR", "ptb"},
-                                           {"pt", "ptg"},
-                                           {"pt_AO", "ptb"},
-                                           {"nn_NO", "nor"},
-                                           {"no", "nor"},
-                                           {"de_CH", "deu"},
-                                           {"sv_FI", "sve"},
-                                           {"fi_FI", "enu"},
-                                           {"C", "enu"},
-                                           {"", "enu"}})
+    const std::pair<const char*, const char*> languages[] = {
+        {"en_US", "enu"}, {"zh_SG", "chs"}, {"zh_HK", "cht"}, {"zh_MO", "cht"}, {"pt_BR", "ptb"},
+        {"pt", "ptg"},    {"pt_AO", "ptb"}, {"nn_NO", "nor"}, {"no", "nor"},    {"de_CH", "deu"},
+        {"sv_FI", "sve"}, {"fi_FI", "enu"}, {"C", "enu"},     {"", "enu"}};
+    for (const auto& [locale, language] : languages)
         EXPECT_EQ(VelmLocale::languageForLocaleName(locale).toStdString(), language) << locale;
 
     qputenv("LC_ALL", "de_DE.UTF-8");

@@ -25,18 +25,6 @@ namespace {
 const pid_t kClientPid = 4242;
 const pid_t kEditorPid = 4343;
 
-std::string VersionFile(const std::string& lines)
-{
-    return "[Version]\n" + lines + "\n";
-}
-
-std::vector<PackageEntry> ClientBundle(int build, std::vector<PackageEntry> extra = {})
-{
-    extra.insert(extra.begin(), {layout::kClientExecutable, "client", EntryKind::File, 0755});
-    extra.push_back({"Contents/Resources/INFO", VersionFile("build_version=" + std::to_string(build))});
-    return extra;
-}
-
 // Each test has a home folder of its own, named in non-ASCII. The bundle is
 // the folder the test executable sits in; tests that write its files lock it,
 // as test processes run side by side.
@@ -54,7 +42,7 @@ protected:
     }
     void Ship(int build, const std::string& package)
     {
-        ASSERT_TRUE(WriteBytes(resources + "/INFO", VersionFile("build_version=" + std::to_string(build))));
+        ASSERT_TRUE(WriteBytes(resources + "/INFO", VersionFile(build)));
         ASSERT_TRUE(WriteBytes(resources + "/" + layout::kPackageArchive, package));
     }
     void InstallForUser(int build, const std::string& marker = "old")
@@ -73,6 +61,7 @@ TEST_F(ServiceTest, UpgradeDecisionFollowsBuildNumbersAndClientPresence)
 {
     UseBundle();
     // The lines of the user's and the bundle's version files (null: no file).
+    const auto info = [](const char* lines) { return "[Version]\n" + std::string(lines) + "\n"; };
     const struct {
         const char *name, *source, *target;
         bool client, upgrade;
@@ -97,8 +86,8 @@ TEST_F(ServiceTest, UpgradeDecisionFollowsBuildNumbersAndClientPresence)
         const QString app = row_home + "/.Drovia/Drovia.app";
         ASSERT_TRUE(qputenv("HOME", row_home.toUtf8()) && QDir().mkpath(row_home));
         QFile::remove(resources + "/INFO");
-        ASSERT_TRUE(!row.target || WriteBytes(resources + "/INFO", VersionFile(row.target)));
-        ASSERT_TRUE(!row.source || WriteBytes(app + "/Contents/Resources/INFO", VersionFile(row.source)));
+        ASSERT_TRUE(!row.target || WriteBytes(resources + "/INFO", info(row.target)));
+        ASSERT_TRUE(!row.source || WriteBytes(app + "/Contents/Resources/INFO", info(row.source)));
         ASSERT_TRUE(!row.client || WriteBytes(app + "/" + layout::kClientExecutable, "client"));
         MacService service;
         service.PreUpgrade();
@@ -255,34 +244,21 @@ TEST_F(ServiceTest, StopSequenceSignalsOnlyTheClient)
         int pauses;
         const char* line;
     } rows[] = {
+        // clang-format off
         {"pid 0", "pid=0\n", nullptr, {}, {}, 0, nullptr},
         {"negative, 4242 modulo 2^32", "pid=-4294963054\n", nullptr, {}, {}, 0, nullptr},
         {"negative pid", "pid=-4242\n", nullptr, {}, {}, 0, nullptr},
         {"number too large", "pid=99999999999\n", nullptr, {}, {}, 0, nullptr},
-        {"another program",
-         "pid=4343\n",
-         nullptr,
-         {},
-         {},
-         0,
+        {"another program", "pid=4343\n", nullptr, {}, {}, 0,
          "4343 runs '/usr/bin/editor', not the Drovia client"},
         {"gone on SIGTERM", "pid = 4242 # client\n", nullptr, {ESRCH}, {SIGTERM}, 0, nullptr},
-        {"zero padding",
-         std::string("pid=4242\n\0\0\0", 12),
-         nullptr,
-         {0, 0, ESRCH},
-         {SIGTERM, 0, 0},
-         1,
+        {"zero padding", std::string("pid=4242\n\0\0\0", 12), nullptr, {0, 0, ESRCH}, {SIGTERM, 0, 0}, 1,
          nullptr},
-        {"refused",
-         "pid=4242\n",
-         nullptr,
-         {EPERM, EPERM},
-         {SIGTERM, 0, 0, 0, 0, 0, SIGKILL},
-         5,
+        {"refused", "pid=4242\n", nullptr, {EPERM, EPERM}, {SIGTERM, 0, 0, 0, 0, 0, SIGKILL}, 5,
          "kill: Operation not permitted (1)"},
         {"started, no pid file yet", "", "pid=4242\n", {0, ESRCH}, {SIGTERM, 0}, 0, "does not exist"},
         {"pid file and record agree", "pid=4242\n", "pid=4242\n", {ESRCH}, {SIGTERM}, 0, nullptr},
+        // clang-format on
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "files.h"
+#include "install-layout.h"
 
 namespace {
 
@@ -63,6 +64,18 @@ bool WriteEntry(archive* writer, const PackageEntry& item)
 }
 
 }  // namespace
+
+std::string VersionFile(int build)
+{
+    return std::string("[Version]\n") + layout::kBuildKey + "=" + std::to_string(build) + "\n";
+}
+
+std::vector<PackageEntry> ClientBundle(int build, std::vector<PackageEntry> extra)
+{
+    extra.insert(extra.begin(), {layout::kClientExecutable, ReadBytes(STAND_IN_CLIENT), {}, 0755});
+    extra.push_back({std::string(layout::kResourcesFolder) + "/" + layout::kVersionFileName, VersionFile(build)});
+    return extra;
+}
 
 std::string MakeArchive(const std::vector<PackageEntry>& entries, int format, int filter)
 {

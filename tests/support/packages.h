@@ -18,6 +18,11 @@ struct PackageEntry {
     int mode = 0644;
 };
 
+// A version file naming the build.
+std::string VersionFile(int build);
+// A client's bundle: the stand-in client, extra and, last, the version file.
+std::vector<PackageEntry> ClientBundle(int build, std::vector<PackageEntry> extra = {});
+
 // The entries packed in libarchive's format and filter; empty when this
 // libarchive cannot write them so.
 std::string MakeArchive(const std::vector<PackageEntry>& entries, int format = ARCHIVE_FORMAT_ZIP,

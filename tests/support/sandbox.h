@@ -19,15 +19,13 @@ struct LauncherRun {
 // A copy of the built Drovia.app and a scratch home, whose name has blanks
 // and composed and decomposed accents, where the launcher runs as a user
 // would. Packages carry the stand-in client, which appends "<build> <pid>"
-// to ~/.Drovia/started when it starts. Skips without a PID namespace of its
-// own (own-namespace-main.cpp).
+// to ~/.Drovia/started when it starts. Skips outside namespaces of its own
+// (in-own-namespace.sh).
 class LauncherSandbox : public ::testing::Test {
 protected:
     void SetUp() override;
 
     QString UserPath(const QString& relative) const;
-    // A client bundle: the stand-in client, extra and, last, the version file.
-    static std::vector<PackageEntry> ClientBundle(int build, const std::vector<PackageEntry>& extra = {});
     void Ship(int build, const std::string& package);  // into the bundle, with its version file
     void Ship(int build) { Ship(build, MakeArchive(ClientBundle(build))); }
     void InstallForUser(const std::vector<PackageEntry>& entries);

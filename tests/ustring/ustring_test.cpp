@@ -14,10 +14,6 @@ static std::u16string utf16_of(const ustring& s)
 {
     return reinterpret_cast<const char16_t*>(s.c_str_utf16());
 }
-static const unsigned short* units(const char16_t* text)
-{
-    return reinterpret_cast<const unsigned short*>(text);
-}
 
 TEST(Ustring, GrowsToExactFitAndShrinksWhenUnderHalfUsed)
 {
@@ -35,15 +31,24 @@ TEST(Ustring, GrowsToExactFitAndShrinksWhenUnderHalfUsed)
     EXPECT_EQ(UI::wdata_capacity(wide), 11u);
 }
 
-TEST(Ustring, ConvertsAndNormalizesBeyondTheBmp)
+TEST(Ustring, ConvertsAndNormalizesBeyondTheBmpAndKeepsUtf16StaleAfterInPlaceEdits)
 {
     const char* utf8 = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80";  // a, e-acute, euro, emoji
     const char16_t* utf16 = u"a\u00E9\u20AC\U0001F600";
     EXPECT_EQ(utf16_of(ustring(utf8)), utf16);
-    EXPECT_STREQ(ustring(units(utf16)).c_str(), utf8);
+    EXPECT_STREQ(ustring(reinterpret_cast<const unsigned short*>(utf16)).c_str(), utf8);
     const ustring decomposed = ustring("\xC3\xA9").normalize(ustring::NFD);
     EXPECT_STREQ(decomposed.c_str(), "e\xCC\x81");
     EXPECT_STREQ(ustring::normalize(decomposed, ustring::NFC).c_str(), "\xC3\xA9");
+
+    // In-place edits leave the UTF-16 form stale until it is cleared.
+    ustring s("a/b");
+    EXPECT_EQ(utf16_of(s), u"a/b");
+    s.replace('/', '\\');
+    s[0] = 'c';
+    EXPECT_EQ(utf16_of(s), u"a/b");
+    s.clear_wdata();
+    EXPECT_EQ(utf16_of(s), u"c\\b");
 }
 
 TEST(Ustring, AppendsAndAssignsItself)
@@ -89,17 +94,6 @@ TEST(Ustring, SearchesStopAtTheEdges)
                                       {empty.find_last_not_of(""), npos}};
     for (const auto& c : cases)
         EXPECT_EQ(c[0], c[1]) << "case " << &c - cases;
-}
-
-TEST(Ustring, Utf16FormStaysStaleAfterInPlaceEdits)
-{
-    ustring s("a/b");
-    EXPECT_EQ(utf16_of(s), u"a/b");
-    s.replace('/', '\\');
-    s[0] = 'c';
-    EXPECT_EQ(utf16_of(s), u"a/b");
-    s.clear_wdata();
-    EXPECT_EQ(utf16_of(s), u"c\\b");
 }
 
 TEST(Ustring, FailedConversionsWarnAndEmptyTheFailedForm)

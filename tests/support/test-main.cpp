@@ -1,9 +1,9 @@
-// main() of the tests that run the service and the extractor in process. The
-// toolkit reads HOME, so it points into a scratch folder before the
-// application object exists: the tests never see the real home folder.
+// main() of every suite that links test_support. The toolkit reads HOME, so
+// it points into a scratch folder before the application object exists: the
+// tests never see the real home folder.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QTemporaryDir>
 
 #include "files.h"
@@ -16,6 +16,8 @@ QString LogCapture::path;
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
+    if (::testing::GTEST_FLAG(list_tests))  // no display needed
+        return RUN_ALL_TESTS();
     QTemporaryDir scratch;
     LogCapture::path = scratch.filePath("test.log");
     const QString levels = scratch.filePath("levels");
@@ -26,7 +28,7 @@ int main(int argc, char** argv)
                                           levels.toUtf8().constData(), 50) == 0;
     if (!ready)
         return 1;
-    QCoreApplication application(argc, argv);
+    QApplication application(argc, argv);
     StrTable::InitStrTable();
     return RUN_ALL_TESTS();
 }
