@@ -73,7 +73,8 @@ std::string VersionFile(int build)
 std::vector<PackageEntry> ClientBundle(int build, std::vector<PackageEntry> extra)
 {
     extra.insert(extra.begin(), {layout::kClientExecutable, ReadBytes(STAND_IN_CLIENT), {}, 0755});
-    extra.push_back({std::string(layout::kResourcesFolder) + "/" + layout::kVersionFileName, VersionFile(build)});
+    extra.push_back(
+        {std::string(layout::kResourcesFolder) + "/" + layout::kVersionFileName, VersionFile(build)});
     return extra;
 }
 
