@@ -1,10 +1,8 @@
 // The progress dialog on an X server of the test's own while the old client
 // stops: on screen, in the user's language from its first text on, and alone:
 // a second launcher started meanwhile leaves at once.
-#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QThread>
 
 #include "files.h"
 #include "sandbox.h"
@@ -52,11 +50,8 @@ TEST_F(DialogUnderX, ShowsInTheUsersLanguageWhileTheOldClientStops)
         QProcess launcher;
         StartLauncher(launcher, env);
 
-        QElapsedTimer timer;
-        timer.start();
         QString window;
-        while ((window = DialogWindow(display)).isEmpty() && timer.elapsed() < 15000)
-            QThread::msleep(20);
+        WaitUntil([&] { return !(window = DialogWindow(display)).isEmpty(); }, 15000);
         ASSERT_FALSE(window.isEmpty()) << "no dialog on screen";
         const QString capture = QString(E2E_ARTIFACT_DIR "/upgrade-dialog-%1").arg(locales[run]);
         EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", window, capture + ".png"}), 0);

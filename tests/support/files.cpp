@@ -1,8 +1,10 @@
 #include "files.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QThread>
 
 bool WriteBytes(const QString& path, const std::string& bytes)
 {
@@ -28,4 +30,12 @@ std::string RandomBytes(std::mt19937& random, size_t size)
 int Repetitions(int quick, int soak)
 {
     return qEnvironmentVariableIsSet("DROVIA_SOAK") ? soak : quick;
+}
+
+void WaitUntil(const std::function<bool()>& ready, int timeout_ms)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!ready() && timer.elapsed() < timeout_ms)
+        QThread::msleep(20);
 }

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <random>
 #include <string>
 
@@ -15,5 +16,7 @@ std::string RandomBytes(std::mt19937& random, size_t size);
 // How often a repeated check runs: quick in the default run, soak when
 // DROVIA_SOAK is set (scripts/soak.sh).
 int Repetitions(int quick, int soak);
+// Returns once ready() holds or the time is up.
+void WaitUntil(const std::function<bool()>& ready, int timeout_ms);
 
 #endif  // TEST_FILES_H

@@ -4,7 +4,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
-#include <QThread>
 
 #include "files.h"
 #include "install-layout.h"
@@ -20,15 +19,6 @@ const char kHomeName[] = "Zo\xc3\xab Zoe\xcc\x88 \xe7\x94\xa8\xe6\x88\xb7 home";
 QStringList StartLines(const QString& started_file)
 {
     return QString::fromStdString(ReadBytes(started_file)).split('\n', Qt::SkipEmptyParts);
-}
-
-// Waits until ready() or the time is up.
-void WaitUntil(const std::function<bool()>& ready, int timeout_ms)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!ready() && timer.elapsed() < timeout_ms)
-        QThread::msleep(20);
 }
 
 }  // namespace
