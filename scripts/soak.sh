@@ -16,5 +16,5 @@ cmake --build "$BUILD" -j "$(nproc)"
 # The test binaries themselves: CTest's time limits are the default run's.
 export DROVIA_SOAK=1
 "$BUILD/tests/service/Drovia.app/Contents/MacOS/service_test" --gtest_filter='*DamagedPackages*'
-"$BUILD/tests/e2e/e2e_test" --gtest_filter='Installation.*'
+"$ROOT/tests/support/in-own-namespace.sh" "$BUILD/tests/e2e/e2e_test" --gtest_filter='Installation.*'
 "$ROOT/scripts/fuzz.sh" "${1:-600}"

@@ -16,13 +16,14 @@ QString LogCapture::path;
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
-    if (::testing::GTEST_FLAG(list_tests))  // no display needed
+    if (::testing::GTEST_FLAG(list_tests))  // listing needs no scratch home
         return RUN_ALL_TESTS();
     QTemporaryDir scratch;
     LogCapture::path = scratch.filePath("test.log");
     const QString levels = scratch.filePath("levels");
-    // The C locale whatever the caller's, as a user's may be.
+    // The C locale whatever the caller's, as a user's may be, and no display.
     const bool ready = qputenv("HOME", scratch.path().toUtf8()) && qputenv("LC_ALL", "C") &&
+                       qputenv("QT_QPA_PLATFORM", "offscreen") &&
                        WriteBytes(levels, "service_debug=7\nextractor_debug=7\nlauncher_debug=7\n") &&
                        Logger::Initialize(Logger::TYPE_FILE, LogCapture::path.toUtf8().constData(),
                                           levels.toUtf8().constData(), 50) == 0;
