@@ -7,14 +7,16 @@
 #include <QFileInfo>
 
 #include "files.h"
+#include "install-layout.h"
 #include "sandbox.h"
 
 namespace {
 
 using LauncherRuns = LauncherSandbox;
 
-// Empty files of the single-instance lock's name, as another user could plant
-// in the shared temporary folder or a killed launcher leave, stop nothing.
+// Files of the single-instance lock's name stop nothing: one in the shared
+// temporary folder that another user planted and holds, nor an empty one a
+// killed launcher left in the lock's own folder.
 TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
 {
     Ship(5);
@@ -23,7 +25,8 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
         QFileInfo(bundle + "/Contents/MacOS/launcher").canonicalFilePath() + "\n" + QString::number(getuid());
     const QString lock = "qtsingleapp-launch-" +
                          QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex() + ".lock";
-    ASSERT_TRUE(WriteBytes(sandbox.filePath("tmp/" + lock), "") && WriteBytes(UserPath(lock), ""));
+    const int planted = HoldLock(sandbox.filePath("tmp/" + lock));
+    ASSERT_TRUE(planted >= 0 && WriteBytes(UserPath(lock), ""));
 
     const LauncherRun first = RunLauncher();
     EXPECT_EQ(first.exit_code, 0) << first.err.toStdString();
@@ -41,6 +44,26 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
     EXPECT_TRUE(second_log.contains("launcher: no need to upgrade"));
     EXPECT_EQ(second_log.filter("already runs as process").size(), 1) << second_log.join('\n').toStdString();
     EXPECT_EQ(StartedBuilds(), QStringList{"5"}) << "a second client started";
+    EXPECT_EQ(RunningBuilds(), QStringList{"5"});
+    close(planted);
+}
+
+// Another launcher of the user's, from another copy of the bundle, is upgrading:
+// this one waits, leaving the installation alone, and then finds nothing to do.
+TEST_F(LauncherRuns, WaitsWhileAnotherLauncherHoldsTheInstallation)
+{
+    InstallForUser(ClientBundle(4));
+    Ship(5);
+    const int other_launcher = HoldLock(UserPath(layout::kLockFile));
+    ASSERT_GE(other_launcher, 0);
+    QProcess launcher;
+    StartLauncher(launcher, Environment());
+    WaitUntil([&] { return !LogMessages().filter("waiting for it").isEmpty(); }, 10000);
+    EXPECT_FALSE(launcher.waitForFinished(300)) << "did not wait for the other launcher";
+    EXPECT_EQ(InstalledBuild(), "4");
+    close(other_launcher);
+    ASSERT_TRUE(launcher.waitForFinished());
+    EXPECT_EQ(InstalledBuild(), "5");
     EXPECT_EQ(RunningBuilds(), QStringList{"5"});
 }
 

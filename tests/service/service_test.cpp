@@ -1,8 +1,6 @@
 // The upgrade service in process: the decision, the installation with its
 // backups, and stopping the client.
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -35,9 +33,8 @@ protected:
 
     void UseBundle()
     {
-        const QString lock_file = QDir::cleanPath(resources + "/../../.test-lock");
-        bundle_lock = open(qPrintable(lock_file), O_CREAT | O_RDWR | O_CLOEXEC, 0644);
-        ASSERT_TRUE(bundle_lock >= 0 && flock(bundle_lock, LOCK_EX) == 0);
+        bundle_lock = HoldLock(QDir::cleanPath(resources + "/../../.test-lock"));
+        ASSERT_GE(bundle_lock, 0);
         QDir(resources).removeRecursively();
     }
     void Ship(int build, const std::string& package)

@@ -1,5 +1,9 @@
 #include "files.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -38,4 +42,14 @@ void WaitUntil(const std::function<bool()>& ready, int timeout_ms)
     timer.start();
     while (!ready() && timer.elapsed() < timeout_ms)
         QThread::msleep(20);
+}
+
+int HoldLock(const QString& path)
+{
+    const int fd = open(QFile::encodeName(path).constData(), O_CREAT | O_RDWR | O_CLOEXEC, 0666);
+    if (fd >= 0 && flock(fd, LOCK_EX) != 0) {
+        close(fd);
+        return -1;
+    }
+    return fd;
 }

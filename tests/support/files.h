@@ -16,6 +16,9 @@ std::string RandomBytes(std::mt19937& random, size_t size);
 // How often a repeated check runs: quick in the default run, soak when
 // DROVIA_SOAK is set (scripts/soak.sh).
 int Repetitions(int quick, int soak);
+// Takes the kernel's lock on the file, creating it, as another program would;
+// the descriptor holds it until closed, -1 when it cannot be had.
+int HoldLock(const QString& path);
 // Returns once ready() holds or the time is up.
 void WaitUntil(const std::function<bool()>& ready, int timeout_ms);
 
