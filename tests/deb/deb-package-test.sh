@@ -42,7 +42,8 @@ if [ "${IN_PID_NAMESPACE:-}" != 1 ]; then
 fi
 # A /tmp and a network of its own: Xvfb, which sees no process outside the
 # namespace, would otherwise take another X server's display for stale.
-mount -t tmpfs -o mode=1777 drovia-tmp /tmp
+. "$(dirname "$0")/../support/private-tmp.sh"
+private_tmp "$0" "$BUILD" "$ARTEFACTS" || fail "no /tmp of its own"
 
 SCRATCH="$(mktemp -d)"
 export HOME="$SCRATCH/home" TMPDIR="$SCRATCH/tmp" LC_ALL=C LANG=C

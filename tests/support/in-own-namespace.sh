@@ -7,7 +7,8 @@
 # namespaces; elsewhere the test runs as it is and its sandboxed cases skip.
 #   in-own-namespace.sh <test> [arguments...]
 if [ "${DROVIA_OWN_NAMESPACE:-}" = 1 ]; then
-    mount -t tmpfs -o mode=1777 drovia-tmp /tmp || exit 1
+    . "$(dirname "$0")/private-tmp.sh"
+    private_tmp "$0" "$1" || exit 1
     "$@" &
     wait $!
     exit $?
