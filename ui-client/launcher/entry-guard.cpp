@@ -71,7 +71,10 @@ std::string EntryGuard::Refusal(archive_entry* entry)
     if (is_symbolic_link && !StaysInside(name, archive_entry_symlink(entry)))
         return "its link target leaves the folder";
 
-    // The writer replaces whatever the name held, a link included.
+    // The writer replaces whatever the name held, a link included. Most
+    // packages hold no link at all, and then no entry needs its key.
+    if (!is_symbolic_link && symbolic_links.empty())
+        return std::string();
     const std::vector<std::string> parts = Components(name);
     const std::string key = Joined(parts, parts.size());
     if (is_symbolic_link)

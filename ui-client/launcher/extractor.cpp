@@ -139,14 +139,13 @@ int Extractor::Extract()
     }
     LOG_MSG(DEBUG, "decompress from '%s' to '%s'", archive_path.c_str_utf8(), dest_path.c_str_utf8());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kEnvironmentPreparing));
-    const Utf8Names utf8_names;
-
     // Refusing an empty archive here keeps the progress total at 1 or more.
     const int total = Count();
     if (total < 1) {
         LOG_MSG(ERROR, "Failed to calculate total file numbers, ret: %d", total);
         return -1;
     }
+    const Utf8Names utf8_names;  // Count has its own
 
     ReadHandle reader(archive_read_new(), archive_read_free);
     WriteHandle writer(archive_write_disk_new(), archive_write_free);

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <QByteArray>
-#include <QDir>
 #include <QSaveFile>
 
 #include <cerrno>
@@ -228,8 +227,7 @@ int MacService::LaunchPerUserBin()
             return 0;
         }
     }
-    const QString bundle = QDir::homePath() + "/" + layout::kUserFolder + "/" + layout::kBundleName;
-    const pid_t started = client_process::OpenBundle(ToUstring(bundle));
+    const pid_t started = client_process::OpenBundle(user_app_path);
     if (started < 0)
         return -1;
     RecordLaunch(started);
