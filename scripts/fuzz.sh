@@ -11,7 +11,7 @@ set -euo pipefail
 ROOT="$(cd "$(dirname "$0")/.." && pwd)"
 SECONDS_PER_TARGET="${1:-20}"
 BUILD="${DROVIA_FUZZ_BUILD:-$ROOT/build-fuzz}"
-TARGETS=(config ustring extractor)
+TARGETS=(config extractor)
 
 CC=clang CXX=clang++ cmake -S "$ROOT/tests/fuzz/engine" -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo > /dev/null
 cmake --build "$BUILD" -j 2

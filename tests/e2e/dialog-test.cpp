@@ -4,6 +4,8 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include <QTest>
+
 #include "files.h"
 #include "sandbox.h"
 
@@ -51,8 +53,8 @@ TEST_F(DialogUnderX, ShowsInTheUsersLanguageWhileTheOldClientStops)
         StartLauncher(launcher, env);
 
         QString window;
-        WaitUntil([&] { return !(window = DialogWindow(display)).isEmpty(); }, 15000);
-        ASSERT_FALSE(window.isEmpty()) << "no dialog on screen";
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !(window = DialogWindow(display)).isEmpty(); }, 15000))
+            << "no dialog on screen";
         const QString capture = QString(E2E_ARTIFACT_DIR "/upgrade-dialog-%1").arg(locales[run]);
         EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", window, capture + ".png"}), 0);
         EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", window, "rgb:" + capture}), 0);

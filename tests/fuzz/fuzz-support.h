@@ -18,17 +18,15 @@
         }                                                                                \
     } while (false)
 
-// A private folder for the run, removed at exit. Never freed: the exit
-// handler still needs its name.
+// A private folder for the run, removed when the run ends.
 inline const std::string& ScratchFolder()
 {
-    static const std::string* folder = [] {
-        auto* name = new std::string(std::filesystem::temp_directory_path().string() + "/drovia-fuzz-XXXXXX");
-        FUZZ_CHECK(mkdtemp(&(*name)[0]) != nullptr);
-        std::atexit([] { std::filesystem::remove_all(ScratchFolder()); });
-        return name;
-    }();
-    return *folder;
+    static const struct Folder {
+        std::string path = std::filesystem::temp_directory_path().string() + "/drovia-fuzz-XXXXXX";
+        Folder() { FUZZ_CHECK(mkdtemp(&path[0]) != nullptr); }
+        ~Folder() { std::filesystem::remove_all(path); }
+    } folder;
+    return folder.path;
 }
 
 inline std::string WriteScratch(const char* name, const std::string& bytes)

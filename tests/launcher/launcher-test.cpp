@@ -6,13 +6,12 @@
 #include <QApplication>
 #include <QDir>
 #include <QProgressDialog>
-#include <QRegularExpression>
 #include <QThread>
 #include <QTimer>
 
 #include "cloud-service.h"
+#include "files.h"
 #include "launcher.h"
-#include "log-capture.h"
 #include "log.h"
 #include "notify-adapter.h"
 #include "worker.h"
@@ -65,7 +64,7 @@ QProgressDialog* Dialog()
     return qobject_cast<QProgressDialog*>(QApplication::topLevelWidgets().value(0));
 }
 
-// Runs one launcher as main() does; its log lines as "launcher: running|fake: Pre|...".
+// Runs one launcher as main() does; its messages as "launcher: running|fake: Pre|...".
 std::string RunLauncher(Outcome outcome)
 {
     const LogCapture log;
@@ -92,10 +91,9 @@ std::string RunLauncher(Outcome outcome)
     delete launcher;  // must wait for the work to end before destroying the service
     EXPECT_EQ(labels, outcome.upgrade && outcome.result == 0 ? 1 : 0) << "the ready text";
 
-    static const QRegularExpression line(R"(^.*\] ([\w/-]+)\(\d+\): ([^/\n]*[^/\n ]).*$)",
-                                         QRegularExpression::MultilineOption);
-    QString steps = QString::fromStdString(log.Text()).replace(line, "\\1: \\2");
-    return steps.split('\n', Qt::SkipEmptyParts).join('|').toStdString();
+    return MessagesIn(QString::fromStdString(log.Text()).replace(QDir::homePath(), "~"))
+        .join('|')
+        .toStdString();
 }
 
 TEST(Launcher, LogsEachOutcomeInOrderShowsTheDialogOnlyToUpgradeAndTruncatesPercentages)
@@ -103,7 +101,7 @@ TEST(Launcher, LogsEachOutcomeInOrderShowsTheDialogOnlyToUpgradeAndTruncatesPerc
     ASSERT_TRUE(QDir().mkpath(QDir::homePath() + "/.Drovia"));  // as main() leaves it, with the log
     const std::string head = "launcher: running|fake: Pre|";
     const std::string tail =
-        "|cloud-service: removing aged app folder|fake: Post|launcher: done|fake: destroyed";
+        "|cloud-service: removing aged app folder ~/.Drovia/app|fake: Post|launcher: done|fake: destroyed";
     EXPECT_EQ(RunLauncher({false, 0, false}), head + "launcher: no need to upgrade" + tail);
     EXPECT_EQ(RunLauncher({true, 0, false}), head + "fake: Handle" + tail);
     EXPECT_EQ(RunLauncher({true, -1, false}),

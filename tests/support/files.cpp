@@ -5,10 +5,9 @@
 #include <unistd.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QThread>
+#include <QRegularExpression>
 
 bool WriteBytes(const QString& path, const std::string& bytes)
 {
@@ -36,14 +35,6 @@ int Repetitions(int quick, int soak)
     return qEnvironmentVariableIsSet("DROVIA_SOAK") ? soak : quick;
 }
 
-void WaitUntil(const std::function<bool()>& ready, int timeout_ms)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!ready() && timer.elapsed() < timeout_ms)
-        QThread::msleep(20);
-}
-
 int HoldLock(const QString& path)
 {
     const int fd = open(QFile::encodeName(path).constData(), O_CREAT | O_RDWR | O_CLOEXEC, 0666);
@@ -52,4 +43,16 @@ int HoldLock(const QString& path)
         return -1;
     }
     return fd;
+}
+
+QStringList MessagesIn(const QString& log)
+{
+    static const QRegularExpression line_shape(QStringLiteral(R"(\] ([\w/-]+)\(\d+\): (.*)$)"));
+    QStringList messages;
+    for (const QString& line : log.split('\n', Qt::SkipEmptyParts)) {
+        const QRegularExpressionMatch match = line_shape.match(line);
+        if (match.hasMatch())
+            messages << match.captured(1) + ": " + match.captured(2);
+    }
+    return messages;
 }

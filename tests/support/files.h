@@ -1,9 +1,8 @@
 #ifndef TEST_FILES_H
 #define TEST_FILES_H
 
-#include <QString>
+#include <QStringList>
 
-#include <functional>
 #include <random>
 #include <string>
 
@@ -19,7 +18,19 @@ int Repetitions(int quick, int soak);
 // Takes the kernel's lock on the file, creating it, as another program would;
 // the descriptor holds it until closed, -1 when it cannot be had.
 int HoldLock(const QString& path);
-// Returns once ready() holds or the time is up.
-void WaitUntil(const std::function<bool()>& ready, int timeout_ms);
+// "Nov 16 20:31:15 [DEBUG] launcher(57): running" -> "launcher: running"
+QStringList MessagesIn(const QString& log);
+
+// What the code under test logged since the capture was made. test-main.cpp
+// sends every component's messages, debug lines included, to one file.
+class LogCapture {
+public:
+    static QString path;
+
+    std::string Text() const { return ReadBytes(path).substr(start); }  // the log only grows
+
+private:
+    size_t start = ReadBytes(path).size();
+};
 
 #endif  // TEST_FILES_H

@@ -39,11 +39,10 @@ protected:
     // The installed client, started detached as an earlier session would have.
     void StartClient(const char* behaviour = "") const;
 
-    static QStringList MessagesIn(const QString& log);  // "launcher: running"
     QStringList LogMessages() const;
+    QStringList StartLines() const;                  // "<build> <pid>" for each client started
     QStringList StartedBuilds(int count = 1) const;  // once at least count clients started
     QStringList RunningBuilds() const;
-    int LastStartedPid() const;
     QString InstalledBuild() const;
     QStringList Backups() const;
 

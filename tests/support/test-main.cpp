@@ -7,7 +7,6 @@
 #include <QTemporaryDir>
 
 #include "files.h"
-#include "log-capture.h"
 #include "log.h"
 #include "strtable.h"
 
