@@ -1,7 +1,7 @@
-// Whole runs of the launcher: installing, finding nothing to do, rolling
-// back on a full disk, logging without a log folder; and the client's life:
-// only the per-user client is ever signalled, and the client the launcher
-// starts shares nothing with it.
+// Whole runs of the launcher: installing, finding nothing to do, waiting for
+// another launcher, rolling back on a full disk, logging without a log
+// folder; and the client's life: only the per-user client is ever signalled,
+// and the client the launcher starts shares nothing with it.
 #include <sys/mount.h>
 #include <unistd.h>
 
@@ -39,6 +39,16 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
     EXPECT_FALSE(QFileInfo::exists(UserPath("app")));
     EXPECT_TRUE(Backups().isEmpty());
     EXPECT_EQ(StartedBuilds(), QStringList{"5"});
+    // The client holds none of the launcher's files: "launcher | cat" ends with the launcher.
+    const QString descriptors = "/proc/" + StartLines().last().section(' ', 1, 1) + "/fd/";
+    for (const QString& fd :
+         QDir(descriptors).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
+        const QString target = QFile::symLinkTarget(descriptors + fd);
+        EXPECT_TRUE(fd.toInt() > 2 || target == "/dev/null")
+            << fd.toStdString() << " " << target.toStdString();
+        EXPECT_FALSE(target.endsWith("launcher.log") || target.endsWith(layout::kLockFile))
+            << target.toStdString();
+    }
     const QStringList first_log = LogMessages();
     EXPECT_FALSE(first_log.contains("launcher: no need to upgrade"));
     EXPECT_EQ(first_log.last(), "launcher: done");
@@ -71,64 +81,37 @@ TEST_F(LauncherRuns, WaitsWhileAnotherLauncherHoldsTheInstallation)
     EXPECT_EQ(RunningBuilds(), QStringList{"5"});
 }
 
-// A 1 MiB file system holds the old installation but not the new package.
-TEST_F(LauncherRuns, FullDiskRollsBackByteForByte)
+// A 1 MiB file system holds the old installation but not the new package,
+// and a file stands where the log folder belongs.
+TEST_F(LauncherRuns, FullDiskRollsBackByteForByteAndLogsToStandardError)
 {
     std::mt19937 random(7);
     ASSERT_EQ(mount("drovia-full", home.toUtf8().constData(), "tmpfs", 0, "size=1m"), 0);
     InstallForUser(ClientBundle(4));
     const TreeSnapshot old_installation = SnapshotOfFolder(UserPath("Drovia.app"));
-    Ship(5, MakeArchive(ClientBundle(5, {{"Contents/Resources/big", RandomBytes(random, 4 << 20)}})));
-
-    EXPECT_EQ(RunLauncher().exit_code, 0);
-    EXPECT_EQ(SnapshotOfFolder(UserPath("Drovia.app")), old_installation);
-    EXPECT_TRUE(Backups().isEmpty());
-    EXPECT_EQ(StartedBuilds(), QStringList{"4"});
-    EXPECT_TRUE(
-        LogMessages().contains("cloud-service: Failed to extract package, rollback to old installation"));
-    EXPECT_EQ(umount2(home.toUtf8().constData(), MNT_DETACH), 0);
-}
-
-TEST_F(LauncherRuns, UnwritableLogFolderSendsMessagesToStandardError)
-{
     ASSERT_TRUE(WriteBytes(UserPath("log"), "a file where the log folder belongs"));
-    Ship(5, "damaged");
+    ASSERT_TRUE(WriteBytes(UserPath("app/left-over"), "aged"));
+    Ship(5, MakeArchive(ClientBundle(5, {{"Contents/Resources/big", RandomBytes(random, 4 << 20)}})));
 
     const LauncherRun run = RunLauncher();
     EXPECT_EQ(run.exit_code, 0);
+    EXPECT_EQ(SnapshotOfFolder(UserPath("Drovia.app")), old_installation);
+    EXPECT_TRUE(Backups().isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(UserPath("app")));
+    EXPECT_EQ(StartedBuilds(), QStringList{"4"});
     const QStringList messages = MessagesIn(run.err);
+    EXPECT_TRUE(messages.contains("cloud-service: Failed to extract package, rollback to old installation"));
     EXPECT_TRUE(messages.contains("launcher: Failed to upgrade package")) << run.err.toStdString();
     EXPECT_FALSE(messages.contains("launcher: running")) << "the level file is read only with a log file";
+    EXPECT_EQ(umount2(home.toUtf8().constData(), MNT_DETACH), 0);
 }
 
 using ClientLife = LauncherSandbox;
 
-// A stale pid file whose number now names, say, the user's editor.
-TEST_F(ClientLife, PidFileOfAnotherProgramLeavesItAloneAndTheUpgradeGoesOn)
-{
-    InstallForUser(ClientBundle(4));
-    Ship(5);
-    QProcess editor;
-    editor.start("sleep", {"30"});
-    ASSERT_TRUE(editor.waitForStarted());
-    ASSERT_TRUE(WriteBytes(UserPath(layout::kPidFile), "pid=" + std::to_string(editor.processId()) + "\n"));
-
-    const LauncherRun run = RunLauncher();
-
-    EXPECT_EQ(run.exit_code, 0);
-    EXPECT_LT(run.milliseconds, 4000) << "waited for a process that is not the client";
-    EXPECT_EQ(editor.state(), QProcess::Running);
-    EXPECT_EQ(InstalledBuild(), "5");
-    EXPECT_EQ(StartedBuilds(), QStringList{"5"});
-    EXPECT_FALSE(LogMessages().filter("not the Drovia client").isEmpty());
-    editor.kill();
-    editor.waitForFinished();
-}
-
-// A crash can leave zero bytes behind the pid; the line still ends there. The
-// client's own executable has been replaced meanwhile, as an interrupted
-// upgrade may leave it: it is the client all the same.
-TEST_F(ClientLife, ZeroPaddedPidFileStillStopsTheClientFirst)
+// A stale pid file, padded with the zero bytes a crash can leave, names the
+// user's editor by now. The launch record names the client, whose executable
+// an interrupted upgrade replaced: it is the client all the same.
+TEST_F(ClientLife, OnlyTheClientIsStoppedThoughItsPidFileNamesAnotherProgram)
 {
     InstallForUser(ClientBundle(4));
     Ship(5);
@@ -136,39 +119,24 @@ TEST_F(ClientLife, ZeroPaddedPidFileStillStopsTheClientFirst)
     const QString executable = UserPath("Drovia.app/Contents/MacOS/cloud-ui");
     ASSERT_TRUE(QFile::copy(executable, executable + ".new"));
     ASSERT_EQ(rename(qPrintable(executable + ".new"), qPrintable(executable)), 0);
-    QFile pid_file(UserPath(layout::kPidFile));
-    ASSERT_TRUE(pid_file.open(QIODevice::Append) && pid_file.write(QByteArray(64, '\0')) == 64);
-    pid_file.close();
+    QProcess editor;
+    editor.start("sleep", {"30"});
+    ASSERT_TRUE(editor.waitForStarted());
+    const std::string editor_pid = std::to_string(editor.processId());
+    ASSERT_TRUE(WriteBytes(UserPath(layout::kPidFile), "pid=" + editor_pid + "\n" + std::string(64, '\0')));
+    const QString client_pid = StartLines().last().section(' ', 1, 1);
+    ASSERT_TRUE(WriteBytes(UserPath(layout::kLaunchRecord), "pid=" + client_pid.toStdString() + "\n"));
 
     const LauncherRun run = RunLauncher();
 
     EXPECT_EQ(run.exit_code, 0);
-    EXPECT_LT(run.milliseconds, 4000) << "the client had to be killed";
+    EXPECT_LT(run.milliseconds, 4000) << "waited for a process to stop";
+    EXPECT_EQ(editor.state(), QProcess::Running);
     EXPECT_EQ(InstalledBuild(), "5");
     EXPECT_EQ(RunningBuilds(), QStringList{"5"}) << "the old client runs on";
-}
-
-// "launcher | cat" must end when the launcher does, though the client runs on.
-TEST_F(ClientLife, LauncherOutputEndsWithTheLauncherWhileTheClientRuns)
-{
-    Ship(5);
-    QProcess pipeline;
-    pipeline.setProcessEnvironment(Environment());
-    pipeline.start("sh", {"-c", "\"$LAUNCHER\" 2>&1 | cat"});
-    ASSERT_TRUE(pipeline.waitForFinished(10000)) << "the client holds the launcher's output";
-    EXPECT_TRUE(pipeline.readAll().contains("lib path"));
-    ASSERT_EQ(RunningBuilds(), QStringList{"5"});
-
-    const QString descriptors = "/proc/" + StartLines().last().section(' ', 1, 1) + "/fd/";
-    for (const QString& fd :
-         QDir(descriptors).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
-        const QString target = QFile::symLinkTarget(descriptors + fd);
-        EXPECT_FALSE(target.endsWith("launcher.log") || target.endsWith(layout::kLockFile))
-            << target.toStdString();
-        if (fd.toInt() <= 2) {
-            EXPECT_EQ(target, "/dev/null") << "descriptor " << fd.toStdString();
-        }
-    }
+    EXPECT_FALSE(LogMessages().filter("not the Drovia client").isEmpty());
+    editor.kill();
+    editor.waitForFinished();
 }
 
 }  // namespace

@@ -15,7 +15,7 @@
 namespace {
 
 struct Unpacked {
-    int result = 0;
+    int result;
     QList<QList<QVariant>> reports;  // (total, current) per entry
     TreeSnapshot destination;
     QStringList beside;  // what the scratch folder holds besides the destination and the archive
@@ -32,14 +32,12 @@ Unpacked Unpack(const std::string& bytes)
     extractor.dest_path = destination.toUtf8().constData();
     extractor.archive_path = archive.toUtf8().constData();
     QSignalSpy progress(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress);
-    Unpacked unpacked;
-    unpacked.result = extractor.Extract();
-    unpacked.reports = progress;
-    unpacked.destination = SnapshotOfFolder(destination);
-    unpacked.beside = QDir(scratch.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
-    unpacked.beside.removeAll("dest");
-    unpacked.beside.removeAll("package.vpk");
-    return unpacked;
+    const int result = extractor.Extract();
+    QStringList beside =
+        QDir(scratch.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    beside.removeOne("dest");
+    beside.removeOne("package.vpk");
+    return {result, progress, SnapshotOfFolder(destination), beside};
 }
 
 TEST(Extractor, UnpacksEveryFormatReportingEachEntryUntilTheFirstBadOne)

@@ -28,23 +28,6 @@ protected:
     const QString root = QFileInfo(scratch.path()).canonicalFilePath();
 };
 
-TEST_F(FileOpTest, RenameAcrossFileSystemsFallsBackToCopyForFilesAndTrees)
-{
-    QTemporaryDir other_device("/dev/shm/file-op-test-XXXXXX");
-    struct stat here, there;
-    if (!other_device.isValid() || stat(qPrintable(root), &here) != 0 ||
-        stat(qPrintable(other_device.path()), &there) != 0 || here.st_dev == there.st_dev)
-        GTEST_SKIP() << "no second file system next to " << root.toStdString();
-    const char* const files[] = {"top", "tree/a", "tree/sub/b", "tree/sub/deeper/c"};
-    for (const char* file : files)
-        Write(file, file);
-    for (const char* name : {"top", "tree"})
-        ASSERT_EQ(FSRename(At(name), qPrintable(other_device.filePath(name)), false), 0) << name;
-    for (const char* file : files)
-        EXPECT_EQ(ReadBytes(other_device.filePath(file)), file);
-    EXPECT_FALSE(Exists("tree") || Exists("top"));
-}
-
 TEST_F(FileOpTest, CopyReportsAFullDevice)
 {
     Write("src", std::string(100000, 'z'));

@@ -49,16 +49,6 @@ private:
     const Outcome outcome;
 };
 
-class TestWorker : public Worker {
-public:
-    explicit TestWorker(Outcome outcome) : Worker(new FakeService(outcome)) {}
-};
-
-class TestLauncher : public Launcher {
-public:
-    explicit TestLauncher(Worker* worker) : Launcher(worker) {}
-};
-
 QProgressDialog* Dialog()
 {
     return qobject_cast<QProgressDialog*>(QApplication::topLevelWidgets().value(0));
@@ -68,8 +58,8 @@ QProgressDialog* Dialog()
 std::string RunLauncher(Outcome outcome)
 {
     const LogCapture log;
-    auto* worker = new TestWorker(outcome);
-    auto* launcher = new TestLauncher(worker);
+    auto* worker = new Worker(new FakeService(outcome));
+    auto* launcher = new Launcher(worker);
     int shown = 0;
     int labels = 0;
     // Queued behind the launcher's own slot, which shows the dialog.
@@ -109,7 +99,7 @@ TEST(Launcher, LogsEachOutcomeInOrderShowsTheDialogOnlyToUpgradeAndTruncatesPerc
     // Closing the last window ends the event loop while the upgrade still runs.
     EXPECT_EQ(RunLauncher({true, 0, true}), head + "fake: Handle" + tail);
 
-    TestLauncher launcher(new TestWorker({false, 0, false}));
+    Launcher launcher(new Worker(new FakeService({false, 0, false})));
     const int reports[][3] = {{3, 2, 66}, {7, 7, 100}, {0, 0, 100}};  // total, done, percent
     for (const auto& report : reports) {
         Notify_Adapter::GetInstance()->UpdateProgress(report[0], report[1]);

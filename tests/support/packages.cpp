@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <filesystem>
 #include <functional>
@@ -118,20 +119,8 @@ TreeSnapshot SnapshotOfFolder(const QString& folder)
 
 TreeSnapshot SnapshotOfEntries(const std::vector<PackageEntry>& entries)
 {
-    TreeSnapshot tree;
-    for (const PackageEntry& item : entries) {
-        // Folders that only deeper names imply exist as well.
-        for (size_t slash = item.name.find('/'); slash != std::string::npos;
-             slash = item.name.find('/', slash + 1))
-            tree.emplace(item.name.substr(0, slash), kFolder);
-        switch (item.kind) {
-        case EntryKind::Folder: tree[item.name] = kFolder; break;
-        case EntryKind::SymbolicLink: tree[item.name] = "l:" + item.content; break;
-        case EntryKind::HardLink: tree[item.name] = tree[item.content]; break;
-        default: tree[item.name] = FileRecord(item.content);
-        }
-    }
-    return tree;
+    const QTemporaryDir folder;
+    return WriteEntries(folder.path(), entries) ? SnapshotOfFolder(folder.path()) : TreeSnapshot();
 }
 
 bool WriteEntries(const QString& folder, const std::vector<PackageEntry>& entries)

@@ -34,7 +34,7 @@ using TreeSnapshot = std::map<std::string, std::string>;
 
 // What a folder holds; links are recorded, never followed.
 TreeSnapshot SnapshotOfFolder(const QString& folder);
-// What unpacking the entries gives.
+// What unpacking the entries gives, for files and folders.
 TreeSnapshot SnapshotOfEntries(const std::vector<PackageEntry>& entries);
 // Writes entries that are files and folders below folder; false for others.
 bool WriteEntries(const QString& folder, const std::vector<PackageEntry>& entries);

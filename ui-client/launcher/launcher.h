@@ -15,6 +15,8 @@ class Launcher : public QObject {
 
 public:
     Launcher();
+    // Takes ownership of worker; tests pass one of their own.
+    explicit Launcher(Worker* worker);
     ~Launcher() override;
 
     void Run();
@@ -22,10 +24,6 @@ public:
 
 signals:
     void sigStart();
-
-protected:
-    // Takes ownership of worker.
-    explicit Launcher(Worker* worker);
 
 private slots:
     void LaunchDone();

@@ -15,6 +15,8 @@ class Worker : public QObject {
 
 public:
     Worker();
+    // Takes ownership of service; tests pass one of their own.
+    explicit Worker(Service* service);
     ~Worker() override;
 
     void StartThread();
@@ -26,10 +28,6 @@ signals:
     void sigShowMsg();
     void sigUpdateProgress(int total, int current);
     void sigSetLabelText(QString const& text);
-
-protected:
-    // Takes ownership of service.
-    explicit Worker(Service* service);
 
 private slots:
     void HandleServicce();
