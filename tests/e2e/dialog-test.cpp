@@ -3,7 +3,6 @@
 // a second launcher started meanwhile leaves at once.
 #include <QRegularExpression>
 #include <QStandardPaths>
-
 #include <QTest>
 
 #include "files.h"

@@ -30,8 +30,10 @@ protected:
     void SetUp() override
     {
         LauncherSandbox::SetUp();
-        if (!IsSkipped())
-            Ship(5, MakeArchive(package));
+        if (IsSkipped())
+            return;
+        Ship(5, MakeArchive(package));
+        unpacked = SnapshotOfEntries(package);
     }
 
     // In a new home: the clients of earlier homes may still run, but they are
@@ -44,12 +46,13 @@ protected:
 
     void ExpectOneCompleteInstallation(const std::string& context)
     {
-        EXPECT_EQ(SnapshotOfFolder(UserPath(layout::kBundleName)), SnapshotOfEntries(package)) << context;
+        EXPECT_EQ(SnapshotOfFolder(UserPath(layout::kBundleName)), unpacked) << context;
         EXPECT_TRUE(Backups().isEmpty()) << context;
         EXPECT_EQ(RunningBuilds(), QStringList{"5"}) << context;
     }
 
     const std::vector<PackageEntry> package = ClientBundle(5, BulkFiles("Contents/Resources/new", 300, 4096));
+    TreeSnapshot unpacked;  // what the package gives
 };
 
 // One copy in a downloads folder, one installed: each has its own

@@ -40,7 +40,7 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
     EXPECT_TRUE(Backups().isEmpty());
     EXPECT_EQ(StartedBuilds(), QStringList{"5"});
     // The client holds none of the launcher's files: "launcher | cat" ends with the launcher.
-    const QString descriptors = "/proc/" + StartLines().last().section(' ', 1, 1) + "/fd/";
+    const QString descriptors = "/proc/" + LastStartedPid() + "/fd/";
     for (const QString& fd :
          QDir(descriptors).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
         const QString target = QFile::symLinkTarget(descriptors + fd);
@@ -124,8 +124,7 @@ TEST_F(ClientLife, OnlyTheClientIsStoppedThoughItsPidFileNamesAnotherProgram)
     ASSERT_TRUE(editor.waitForStarted());
     const std::string editor_pid = std::to_string(editor.processId());
     ASSERT_TRUE(WriteBytes(UserPath(layout::kPidFile), "pid=" + editor_pid + "\n" + std::string(64, '\0')));
-    const QString client_pid = StartLines().last().section(' ', 1, 1);
-    ASSERT_TRUE(WriteBytes(UserPath(layout::kLaunchRecord), "pid=" + client_pid.toStdString() + "\n"));
+    ASSERT_TRUE(WriteBytes(UserPath(layout::kLaunchRecord), "pid=" + LastStartedPid().toStdString() + "\n"));
 
     const LauncherRun run = RunLauncher();
 

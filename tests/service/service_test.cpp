@@ -41,9 +41,9 @@ protected:
         ASSERT_TRUE(WriteBytes(resources + "/INFO", VersionFile(build)));
         ASSERT_TRUE(WriteBytes(resources + "/" + layout::kPackageArchive, package));
     }
-    void InstallForUser(int build, const std::string& marker = "old")
+    void InstallForUser(int build)
     {
-        ASSERT_TRUE(WriteEntries(user_app, ClientBundle(build, {{"marker", marker}})));
+        ASSERT_TRUE(WriteEntries(user_app, ClientBundle(build, {{"marker", "old"}})));
     }
 
     QTemporaryDir home{QDir::tempPath() + QString::fromUtf8("/J\xC3\xB6rg \xC3\x9C-XXXXXX")};
@@ -157,6 +157,7 @@ TEST_F(ServiceTest, DamagedPackagesLeaveTheOldInstallationAndNothingElse)
     std::mt19937 random(2026);
     const std::vector<PackageEntry> entries = ClientBundle(5, {{"data", RandomBytes(random, 20000)}});
     const std::string package = MakeArchive(entries);
+    const TreeSnapshot unpacked = SnapshotOfEntries(entries);
     for (int variant = 0; variant < Repetitions(24, 800); ++variant) {
         std::string bytes = package;
         switch (variant % 3) {
@@ -170,8 +171,7 @@ TEST_F(ServiceTest, DamagedPackagesLeaveTheOldInstallationAndNothingElse)
         Ship(5, bytes);
 
         MacService service;
-        const TreeSnapshot expected =
-            service.PrepareUserEnv() == 0 ? SnapshotOfEntries(entries) : old_installation;
+        const TreeSnapshot expected = service.PrepareUserEnv() == 0 ? unpacked : old_installation;
         service.RemoveAgedFolders();
 
         EXPECT_EQ(SnapshotOfFolder(user_app), expected) << "variant " << variant;

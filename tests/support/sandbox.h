@@ -40,7 +40,8 @@ protected:
     void StartClient(const char* behaviour = "") const;
 
     QStringList LogMessages() const;
-    QStringList StartLines() const;                  // "<build> <pid>" for each client started
+    QStringList StartLines() const;  // "<build> <pid>" for each client started
+    QString LastStartedPid() const;
     QStringList StartedBuilds(int count = 1) const;  // once at least count clients started
     QStringList RunningBuilds() const;
     QString InstalledBuild() const;
