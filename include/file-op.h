@@ -97,6 +97,12 @@ int FSMKDirP(const ustring& path, char** stop_at, bool replace_non_dirs, unsigne
 // Recursive delete; links are removed, never followed. FS_OK, FS_ERROR or
 // FS_STEP_FAILED.
 int FSRemove(const ustring& path, bool flag);
+// Swaps two existing paths in one atomic step. FS_OK, or FS_ERROR with errno
+// set: EINVAL, ENOSYS or ENOTSUP where the file system cannot exchange.
+int FSExchange(const ustring& path, const ustring& other);
+// Makes everything written so far on the file system that holds path
+// durable, names included. FS_OK or FS_ERROR.
+int FSSync(const ustring& path);
 
 int FSMktemp(const ustring& dir, ustring& out);
 int FSCreateTempPath(const ustring& dir, ustring& out);

@@ -510,6 +510,25 @@ int FSRemove(const ustring& path, bool)
     return RemoveEntry(path);
 }
 
+int FSExchange(const ustring& path, const ustring& other)
+{
+    if (fs_platform::exchange(path.c_str(), other.c_str()) == 0)
+        return FS_OK;
+    const int error = errno;
+    LOG_MSG(WARNING, "FSExchange: exchange(%s, %s): %s (%d)", path.c_str(), other.c_str(), strerror(error),
+            error);
+    errno = error;
+    return FS_ERROR;
+}
+
+int FSSync(const ustring& path)
+{
+    if (fs_platform::sync_file_system(path.c_str()) == 0)
+        return FS_OK;
+    LOG_MSG(ERROR, "FSSync: sync(%s): %s (%d)", path.c_str(), strerror(errno), errno);
+    return FS_ERROR;
+}
+
 int FSMktemp(const ustring& dir, ustring& out)
 {
     const ustring name_template = dir + "/XXXXXX";

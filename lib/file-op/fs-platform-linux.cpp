@@ -1,7 +1,9 @@
 #include "fs-platform.h"
 
+#include <fcntl.h>
 #include <linux/magic.h>
 #include <sys/vfs.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <climits>
@@ -53,6 +55,23 @@ int type_name(const char* path, std::string* name)
     // f_type is signed on some architectures; magic numbers are 32-bit.
     *name = NameOfMagic(static_cast<unsigned long>(info.f_type) & 0xFFFFFFFFUL);
     return 0;
+}
+
+int exchange(const char* path, const char* other)
+{
+    return renameat2(AT_FDCWD, path, AT_FDCWD, other, RENAME_EXCHANGE);
+}
+
+int sync_file_system(const char* path)
+{
+    const int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return -1;
+    const int status = syncfs(fd);
+    const int error = errno;
+    close(fd);
+    errno = error;
+    return status;
 }
 
 }  // namespace fs_platform

@@ -1,8 +1,11 @@
 #include "fs-platform.h"
 
 #include <CoreServices/CoreServices.h>
+#include <fcntl.h>
+#include <stdio.h>
 #include <sys/mount.h>
 #include <sys/param.h>
+#include <unistd.h>
 
 // The file-reference calls are deprecated but still the only ones that spell
 // a path exactly as the volume stores it.
@@ -33,6 +36,26 @@ int type_name(const char* path, std::string* name)
         return -1;
     *name = info.f_fstypename;
     return 0;
+}
+
+int exchange(const char* path, const char* other)
+{
+    return renamex_np(path, other, RENAME_SWAP);
+}
+
+// macOS has no sync of one file system: sync() schedules every write, and
+// F_FULLFSYNC waits until the drive holding path has them on its medium.
+int sync_file_system(const char* path)
+{
+    sync();
+    const int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return -1;
+    const int status = fcntl(fd, F_FULLFSYNC);
+    const int error = errno;
+    close(fd);
+    errno = error;
+    return status;
 }
 
 }  // namespace fs_platform

@@ -5,7 +5,8 @@
 #include <string>
 
 // What the file-system layer needs from the operating system beyond POSIX:
-// the canonical spelling of a path and the name of the file system under it.
+// the canonical spelling of a path, the name of the file system under it,
+// an atomic exchange of two paths and a sync of a whole file system.
 namespace fs_platform {
 
 // Size of the buffer that receives a canonical path.
@@ -22,6 +23,15 @@ int canonical_path(const char* path, char* buf, ResolveStep* failed_step);
 // Names the file system path lies on, in the macOS spelling ("nfs", "smbfs",
 // "afpfs", "msdos", ...). Returns 0, or -1 with errno set.
 int type_name(const char* path, std::string* name);
+
+// Swaps what the two existing paths name, folders included, in one step
+// that nothing can see half done. Returns 0, or -1 with errno set (EINVAL,
+// ENOSYS or ENOTSUP where the file system cannot exchange).
+int exchange(const char* path, const char* other);
+
+// Writes everything cached for the file system holding path, file data and
+// names alike, to its device. Returns 0, or -1 with errno set.
+int sync_file_system(const char* path);
 
 }  // namespace fs_platform
 
