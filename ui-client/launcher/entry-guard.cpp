@@ -2,10 +2,14 @@
 
 #include <archive_entry.h>
 
+#include <deque>
 #include <sstream>
 #include <vector>
 
 namespace {
+
+// As the kernel's limit: a longer chain is a loop or meant to mislead.
+const int kMostLinksFollowed = 40;
 
 // The components of a name, without the empty ones of doubled or leading
 // slashes and without ".": the name as it lands below the destination.
@@ -30,17 +34,52 @@ std::string Joined(const std::vector<std::string>& parts, size_t count)
     return key;
 }
 
-// Whether target, read from the folder of the link at name, stays below the
-// destination. Judged by the text alone: the links it passes are themselves
-// checked, and nothing is ever written through one.
-bool StaysInside(const std::string& name, const char* target)
+// Puts the components of a link's target ahead of the rest of the path;
+// false when the target leads out whatever follows it.
+bool Expand(const std::string& target, std::deque<std::string>& ahead, int& followed)
 {
-    if (target == nullptr || target[0] == '\0' || target[0] == '/')
+    if (target.empty() || target[0] == '/' || ++followed > kMostLinksFollowed)
         return false;
-    long depth = static_cast<long>(Components(name).size()) - 1;
-    for (const std::string& part : Components(target)) {
-        depth += part == ".." ? -1 : 1;
-        if (depth < 0)
+    const std::vector<std::string> parts = Components(target);
+    ahead.insert(ahead.begin(), parts.begin(), parts.end());
+    return true;
+}
+
+// Whether the link at name stays below the destination when followed
+// through the links: each link met on the way is read from its own folder,
+// as the kernel reads it, and a loop leads out.
+bool ResolvesInside(const LinkTargets& links, const std::string& name, const std::string& target)
+{
+    std::vector<std::string> folder = Components(name);
+    std::deque<std::string> ahead;
+    int followed = 0;
+    if (folder.empty() || !Expand(target, ahead, followed))
+        return false;
+    folder.pop_back();
+    while (!ahead.empty()) {
+        const std::string part = ahead.front();
+        ahead.pop_front();
+        if (part == "..") {
+            if (folder.empty())
+                return false;
+            folder.pop_back();
+            continue;
+        }
+        folder.push_back(part);
+        const auto link = links.find(Joined(folder, folder.size()));
+        if (link == links.end())
+            continue;
+        folder.pop_back();
+        if (!Expand(link->second, ahead, followed))
+            return false;
+    }
+    return true;
+}
+
+bool AllResolveInside(const LinkTargets& links)
+{
+    for (const auto& [name, target] : links) {
+        if (!ResolvesInside(links, name, target))
             return false;
     }
     return true;
@@ -68,19 +107,25 @@ std::string EntryGuard::Refusal(archive_entry* entry)
     if (hard_link_target != nullptr && !(link = LinkOnTheWay(hard_link_target, true)).empty())
         return "its hard-link target lies behind the symbolic link '" + link + "'";
     const bool is_symbolic_link = archive_entry_filetype(entry) == AE_IFLNK;
-    if (is_symbolic_link && !StaysInside(name, archive_entry_symlink(entry)))
-        return "its link target leaves the folder";
-
-    // The writer replaces whatever the name held, a link included. Most
-    // packages hold no link at all, and then no entry needs its key.
+    // Most packages hold no link at all, and then no entry needs its key.
     if (!is_symbolic_link && symbolic_links.empty())
         return std::string();
     const std::vector<std::string> parts = Components(name);
     const std::string key = Joined(parts, parts.size());
+    if (!is_symbolic_link && symbolic_links.count(key) == 0)
+        return std::string();
+
+    // The writer replaces whatever the name held, and a link that goes or
+    // changes can change where the others lead.
+    LinkTargets links = symbolic_links;
+    const char* target = archive_entry_symlink(entry);
     if (is_symbolic_link)
-        symbolic_links.insert(key);
+        links[key] = target != nullptr ? target : "";
     else
-        symbolic_links.erase(key);
+        links.erase(key);
+    if (!AllResolveInside(links))
+        return "a symbolic link would lead out of the folder";
+    symbolic_links.swap(links);
     return std::string();
 }
 
