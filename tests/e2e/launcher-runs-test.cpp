@@ -8,6 +8,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTest>
 
 #include "files.h"
@@ -37,7 +38,7 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
     EXPECT_EQ(first.out, "lib path = 'Drovia.app/Contents/Frameworks/plugins'\n");
     EXPECT_EQ(InstalledBuild(), "5");
     EXPECT_FALSE(QFileInfo::exists(UserPath("app")));
-    EXPECT_TRUE(Backups().isEmpty());
+    EXPECT_TRUE(Leftovers().isEmpty());
     EXPECT_EQ(StartedBuilds(), QStringList{"5"});
     // The client holds none of the launcher's files: "launcher | cat" ends with the launcher.
     const QString descriptors = "/proc/" + LastStartedPid() + "/fd/";
@@ -83,7 +84,7 @@ TEST_F(LauncherRuns, WaitsWhileAnotherLauncherHoldsTheInstallation)
 
 // A 1 MiB file system holds the old installation but not the new package,
 // and a file stands where the log folder belongs.
-TEST_F(LauncherRuns, FullDiskRollsBackByteForByteAndLogsToStandardError)
+TEST_F(LauncherRuns, FullDiskKeepsTheOldInstallationAndLogsToStandardError)
 {
     std::mt19937 random(7);
     ASSERT_EQ(mount("drovia-full", home.toUtf8().constData(), "tmpfs", 0, "size=1m"), 0);
@@ -96,10 +97,13 @@ TEST_F(LauncherRuns, FullDiskRollsBackByteForByteAndLogsToStandardError)
     const LauncherRun run = RunLauncher();
     EXPECT_EQ(run.exit_code, 0);
     EXPECT_EQ(SnapshotOfFolder(UserPath("Drovia.app")), old_installation);
-    EXPECT_TRUE(Backups().isEmpty());
+    EXPECT_TRUE(Leftovers().isEmpty());
     EXPECT_FALSE(QFileInfo::exists(UserPath("app")));
     EXPECT_EQ(StartedBuilds(), QStringList{"4"});
     const QStringList messages = MessagesIn(run.err);
+    EXPECT_EQ(
+        messages.filter(QRegularExpression("^extractor: not enough space .*: \\d+ bytes missing$")).size(), 1)
+        << run.err.toStdString();
     EXPECT_TRUE(messages.contains("cloud-service: Failed to extract package, rollback to old installation"));
     EXPECT_TRUE(messages.contains("launcher: Failed to upgrade package")) << run.err.toStdString();
     EXPECT_FALSE(messages.contains("launcher: running")) << "the level file is read only with a log file";

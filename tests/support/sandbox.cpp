@@ -77,20 +77,21 @@ QProcessEnvironment LauncherSandbox::Environment() const
 
 // By a path relative to the sandbox, which "lib path" then shows.
 void LauncherSandbox::StartLauncher(QProcess& launcher, const QProcessEnvironment& env,
-                                    const QString& bundle_copy) const
+                                    const QString& bundle_copy, const QStringList& wrapper) const
 {
+    QStringList command = wrapper;
+    command << (bundle_copy.isEmpty() ? QString(layout::kBundleName) : bundle_copy) + kLauncher;
     launcher.setProcessEnvironment(env);
     launcher.setWorkingDirectory(sandbox.path());
-    launcher.start((bundle_copy.isEmpty() ? QString(layout::kBundleName) : bundle_copy) + kLauncher,
-                   QStringList());
+    launcher.start(command.takeFirst(), command);
 }
 
-LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env)
+LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env, const QStringList& wrapper)
 {
     QElapsedTimer timer;
     timer.start();
     QProcess launcher;
-    StartLauncher(launcher, env);
+    StartLauncher(launcher, env, {}, wrapper);
     LauncherRun run;
     const bool ended = launcher.waitForFinished(kTimeoutMs);
     run.milliseconds = timer.elapsed();
@@ -151,8 +152,8 @@ QString LauncherSandbox::InstalledBuild() const
     return QString::fromStdString(ReadBytes(version_file)).section("build_version=", 1).section('\n', 0, 0);
 }
 
-QStringList LauncherSandbox::Backups() const
+QStringList LauncherSandbox::Leftovers() const
 {
-    const QString backup = QString(layout::kBundleName) + layout::kBackupSuffix;
-    return QDir(UserPath("")).entryList({backup + "*"}, QDir::AllEntries | QDir::NoDotAndDotDot);
+    return QDir(UserPath(""))
+        .entryList({QString(layout::kBundleName) + "_*"}, QDir::AllEntries | QDir::NoDotAndDotDot);
 }

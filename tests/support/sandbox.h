@@ -32,9 +32,10 @@ protected:
     void MoveToNewHome(const QString& name);
 
     QProcessEnvironment Environment() const;
-    void StartLauncher(QProcess& launcher, const QProcessEnvironment& env,
-                       const QString& bundle_copy = {}) const;
-    LauncherRun RunLauncher(const QProcessEnvironment& env);
+    // wrapper: a program, with its arguments, that runs the launcher.
+    void StartLauncher(QProcess& launcher, const QProcessEnvironment& env, const QString& bundle_copy = {},
+                       const QStringList& wrapper = {}) const;
+    LauncherRun RunLauncher(const QProcessEnvironment& env, const QStringList& wrapper = {});
     LauncherRun RunLauncher() { return RunLauncher(Environment()); }
     // The installed client, started detached as an earlier session would have.
     void StartClient(const char* behaviour = "") const;
@@ -45,7 +46,7 @@ protected:
     QStringList StartedBuilds(int count = 1) const;  // once at least count clients started
     QStringList RunningBuilds() const;
     QString InstalledBuild() const;
-    QStringList Backups() const;
+    QStringList Leftovers() const;  // backups and staging folders beside the bundle
 
     QTemporaryDir sandbox;
     QString home;

@@ -4,7 +4,10 @@
 #include <archive_entry.h>
 
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -26,6 +29,11 @@ const size_t kReadBlockSize = 10240;
 // library supports it; permissions, times and owners stay at the defaults.
 const int kDiskWriteOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+
+// What an unpack leaves free on the destination's file system for the
+// user's other programs: 3 % of it, as much as any package needs at most.
+const int64_t kSparePercent = 3;
+const int64_t kMaxSpareBytes = 128LL * 1024 * 1024;
 
 // Every handle is freed on every way out.
 using ReadHandle = std::unique_ptr<archive, decltype(&archive_read_free)>;
@@ -64,6 +72,42 @@ ReadHandle OpenEntryWalk(const ustring& archive_path, const ustring& dest_path)
         return ReadHandle(nullptr, archive_read_free);
     }
     return reader;
+}
+
+// Entries readable before the end or the first bad header, or -1; data_bytes
+// receives the size of their data. A bad header ends the count like the end
+// does: Extract reports it.
+int CountEntries(const ustring& archive_path, const ustring& dest_path, int64_t* data_bytes)
+{
+    const Utf8Names utf8_names;
+    ReadHandle reader = OpenEntryWalk(archive_path, dest_path);
+    if (!reader)
+        return -1;
+    int entries = 0;
+    *data_bytes = 0;
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        ++entries;
+        *data_bytes += archive_entry_size(entry);
+        // A skip that fails leaves the reader failed, which ends the loop.
+        archive_read_data_skip(reader.get());
+    }
+    return entries;
+}
+
+// How many bytes dest_path's file system lacks for entries that hold
+// data_bytes, each of which may take a block more than its data; 0 when they
+// fit, or when the free space cannot be told and the writes must show it.
+int64_t BytesMissing(const ustring& dest_path, int64_t data_bytes, int entries)
+{
+    struct statvfs file_system;
+    if (statvfs(dest_path.c_str_utf8(), &file_system) != 0)
+        return 0;
+    const int64_t block = static_cast<int64_t>(file_system.f_frsize);
+    const int64_t size = block * static_cast<int64_t>(file_system.f_blocks);
+    const int64_t spare = std::min(size * kSparePercent / 100, kMaxSpareBytes);
+    const int64_t needed = data_bytes + block * entries + spare;
+    return std::max<int64_t>(needed - block * static_cast<int64_t>(file_system.f_bavail), 0);
 }
 
 // Names and hard-link targets land below dest_path: they are only prefixed,
@@ -140,9 +184,17 @@ int Extractor::Extract()
     LOG_MSG(DEBUG, "decompress from '%s' to '%s'", archive_path.c_str_utf8(), dest_path.c_str_utf8());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kEnvironmentPreparing));
     // Refusing an empty archive here keeps the progress total at 1 or more.
-    const int total = Count();
+    int64_t data_bytes = 0;
+    const int total = CountEntries(archive_path, dest_path, &data_bytes);
     if (total < 1) {
         LOG_MSG(ERROR, "Failed to calculate total file numbers, ret: %d", total);
+        return -1;
+    }
+    // A package that cannot fit would fill the user's disk before failing.
+    const int64_t missing = BytesMissing(dest_path, data_bytes, total);
+    if (missing > 0) {
+        LOG_MSG(ERROR, "not enough space to unpack into '%s': %lld bytes missing", dest_path.c_str_utf8(),
+                static_cast<long long>(missing));
         return -1;
     }
     const Utf8Names utf8_names;  // Count has its own
@@ -163,19 +215,8 @@ int Extractor::Extract()
 
 int Extractor::Count()
 {
-    const Utf8Names utf8_names;
-    ReadHandle reader = OpenEntryWalk(archive_path, dest_path);
-    if (!reader)
-        return -1;
-    int entries = 0;
-    archive_entry* entry = nullptr;
-    // A bad header ends the count like the end does; Extract reports it.
-    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
-        ++entries;
-        // A skip that fails leaves the reader failed, which ends the loop.
-        archive_read_data_skip(reader.get());
-    }
-    return entries;
+    int64_t data_bytes = 0;
+    return CountEntries(archive_path, dest_path, &data_bytes);
 }
 
 int Extractor::List()
