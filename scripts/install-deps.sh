@@ -10,7 +10,7 @@ PACKAGES=(
     googletest libgtest-dev
     xvfb x11-apps x11-utils imagemagick
     clang libclang-rt-14-dev
-    python3 gnuplot-nox
+    python3 gnuplot-nox strace
     dpkg-dev lintian desktop-file-utils
 )
 

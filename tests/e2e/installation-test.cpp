@@ -1,12 +1,16 @@
 // The user's installation under concurrent and interrupted runs: whatever
-// happens, the next run leaves a complete installation, no backup and one
-// client.
+// happens, the next run leaves the complete old or new installation, nothing
+// beside it and one client.
+#include <unistd.h>
+
 #include <QDir>
-#include <QElapsedTimer>
-#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
 #include <QThread>
 
-#include <functional>
+#include <algorithm>
+#include <map>
+#include <utility>
 
 #include "files.h"
 #include "install-layout.h"
@@ -14,56 +18,201 @@
 
 namespace {
 
-// Many small files, so that unpacking a build or deleting one takes long
-// enough for another run or a kill to land in the middle.
-std::vector<PackageEntry> BulkFiles(const std::string& folder, int count, int size)
+// The calls by which a run changes the file system, or stops the old client.
+const char kChangingCalls[] =
+    "mkdir,unlink,rmdir,rename,renameat2,symlink,link,linkat,fchmod,utimensat,fsync,fdatasync,syncfs,kill";
+
+std::vector<PackageEntry> Files(const std::string& folder, int count)
 {
-    std::mt19937 random(static_cast<unsigned>(count));
     std::vector<PackageEntry> files;
     for (int index = 0; index < count; ++index)
-        files.push_back({folder + "/" + std::to_string(index), RandomBytes(random, size)});
+        files.push_back({folder + "/" + std::to_string(index), std::string(100 * index, 'x')});
     return files;
 }
 
+// A call by its name and its number among the calls of that name that its
+// thread made, as strace counts them for an injection.
+using Call = std::pair<QString, int>;
+
 class Installation : public LauncherSandbox {
 protected:
-    void SetUp() override
-    {
-        LauncherSandbox::SetUp();
-        if (IsSkipped())
-            return;
-        Ship(5, MakeArchive(package));
-        unpacked = SnapshotOfEntries(package);
-    }
-
     // In a new home: the clients of earlier homes may still run, but they are
     // not this home's.
-    void InstallOldBuild(const std::string& home_name, int files)
+    void InstallOldBuild(const QString& home_name)
     {
-        MoveToNewHome(QString::fromStdString(home_name));
-        InstallForUser(ClientBundle(4, BulkFiles("Contents/Resources/old", files, 64)));
+        MoveToNewHome(home_name);
+        InstallForUser(old_build);
     }
 
-    void ExpectOneCompleteInstallation(const std::string& context)
+    std::vector<Call> RecordCalls(const QStringList& strace_options)
     {
-        EXPECT_EQ(SnapshotOfFolder(UserPath(layout::kBundleName)), unpacked) << context;
-        EXPECT_TRUE(Backups().isEmpty()) << context;
-        EXPECT_EQ(RunningBuilds(), QStringList{"5"}) << context;
+        const QString trace = sandbox.filePath("calls");
+        RunLauncher(Environment(), Strace(strace_options + QStringList{"-o", trace, "-e", kChangingCalls}));
+        std::vector<Call> calls;
+        std::map<std::pair<QString, QString>, int> made;  // by thread and name
+        const QRegularExpression call("^(\\d+) +(\\w+)\\(", QRegularExpression::MultilineOption);
+        for (auto match = call.globalMatch(QString::fromStdString(ReadBytes(trace))); match.hasNext();) {
+            const auto found = match.next();
+            calls.push_back({found.captured(2), ++made[{found.captured(1), found.captured(2)}]});
+        }
+        return calls;
     }
 
-    const std::vector<PackageEntry> package = ClientBundle(5, BulkFiles("Contents/Resources/new", 300, 4096));
-    TreeSnapshot unpacked;  // what the package gives
+    // The client the launcher starts runs on untraced.
+    QStringList Strace(const QStringList& options) const
+    {
+        return QStringList{QStandardPaths::findExecutable("strace"), "-f", "-qq", "-b", "execve"} + options;
+    }
+
+    LauncherRun RunStoppedAt(const Call& call, const QStringList& strace_options, const char* signal = "KILL")
+    {
+        const QString inject = QString("%1:signal=%2:when=%3").arg(call.first, signal).arg(call.second);
+        return RunLauncher(Environment(),
+                           Strace(strace_options + QStringList{"-o", "/dev/null", "-e", "inject=" + inject}));
+    }
+
+    void ExpectInstalled(const std::vector<PackageEntry>& entries, const char* build, const QString& context)
+    {
+        EXPECT_EQ(SnapshotOfFolder(UserPath(layout::kBundleName)), SnapshotOfEntries(entries))
+            << context.toStdString();
+        EXPECT_EQ(Leftovers(), QStringList()) << context.toStdString();
+        EXPECT_EQ(RunningBuilds(), QStringList{build}) << context.toStdString();
+    }
+
+    const std::vector<PackageEntry> old_build = ClientBundle(4, Files("Contents/Resources/old", 8));
+    const std::vector<PackageEntry> new_build = ClientBundle(5, Files("Contents/Resources/new", 8));
 };
+
+// The first and the last call of each name, in the order made; every call
+// in the soak run.
+std::vector<Call> Spread(const std::vector<Call>& calls)
+{
+    std::map<QString, int> last;
+    for (const Call& call : calls)
+        last[call.first] = call.second;
+    std::vector<Call> points;
+    for (const Call& call : calls) {
+        if (call.second == 1 || call.second == last[call.first] || Repetitions(0, 1))
+            points.push_back(call);
+    }
+    return points;
+}
+
+struct Upgrade {
+    const char* name;
+    int version_file_at;  // in the package: 0 first, -1 last
+    bool fails;           // an entry half-way is refused
+    bool can_exchange;    // whether the file system can exchange two folders
+    bool client_runs;     // the old client runs and is stopped
+};
+
+void PrintTo(const Upgrade& upgrade, std::ostream* out)
+{
+    *out << upgrade.name;
+}
+
+class StoppedUpgrade : public Installation, public ::testing::WithParamInterface<Upgrade> {};
+
+// Stopped mostly by SIGKILL, at some points by the signals of a session that
+// ends. After each stop the next run, and for a failing package a run with a
+// good one after it, leaves the old or the new installation and its client.
+TEST_P(StoppedUpgrade, EndsWithTheOldOrTheNewInstallationOnTheNextRun)
+{
+    const Upgrade upgrade = GetParam();
+    std::vector<PackageEntry> package = new_build;
+    if (upgrade.version_file_at >= 0)
+        std::rotate(package.begin() + upgrade.version_file_at, package.end() - 1, package.end());
+    if (upgrade.fails)
+        package.insert(package.begin() + 5, {"../refused", "out"});
+    const QStringList strace_options =
+        upgrade.can_exchange ? QStringList() : QStringList{"-e", "inject=renameat2:error=EINVAL"};
+    const auto install_old_build = [&](const QString& context) {
+        InstallOldBuild(context);
+        if (upgrade.client_runs)
+            StartClient();
+    };
+    Ship(5, MakeArchive(package));
+    install_old_build("recorded");
+    const char* stop_signals[] = {"KILL", "TERM", "KILL", "HUP"};
+    int point = 0;
+    for (const Call& call : Spread(RecordCalls(strace_options))) {
+        const char* stop_signal = stop_signals[point++ % 4];
+        const QString context = QString("SIG%1 at %2 #%3").arg(stop_signal, call.first).arg(call.second);
+        install_old_build(context);
+        RunStoppedAt(call, strace_options, stop_signal);
+        EXPECT_EQ(RunLauncher().exit_code, 0) << context.toStdString();
+        ExpectInstalled(upgrade.fails ? old_build : package, upgrade.fails ? "4" : "5", context);
+        if (!upgrade.fails)
+            continue;
+        Ship(5, MakeArchive(new_build));
+        EXPECT_EQ(RunLauncher().exit_code, 0) << context.toStdString();
+        ExpectInstalled(new_build, "5", context + ", then a good package");
+        Ship(5, MakeArchive(package));
+    }
+}
+
+const Upgrade kUpgrades[] = {
+    {"VersionFileLast", -1, false, true, true},    {"VersionFileFirst", 0, false, true, false},
+    {"VersionFileBetween", 4, false, true, false}, {"Failing", -1, true, true, false},
+    {"NoExchange", -1, false, false, false},
+};
+INSTANTIATE_TEST_SUITE_P(Packages, StoppedUpgrade, ::testing::ValuesIn(kUpgrades),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// Ten interrupted upgrades in a row use up nothing that the eleventh needs.
+TEST_F(Installation, TenStoppedUpgradesInARowThenOneThatCompletes)
+{
+    Ship(5, MakeArchive(new_build));
+    InstallOldBuild("recorded");
+    const std::vector<Call> points = Spread(RecordCalls({}));
+    ASSERT_GT(points.size(), 10u);
+    InstallOldBuild("stopped ten times");
+    for (size_t at = 1; at <= 10; ++at)
+        RunStoppedAt(points[at], {});
+    EXPECT_EQ(RunLauncher().exit_code, 0);
+    ExpectInstalled(new_build, "5", "after ten stops");
+}
+
+// A power cut right after the run, or once the file system has committed
+// its journal: ~/.Drovia on an ext4 image whose backing file is copied at
+// those moments, and each copy mounted as the restarted machine would.
+TEST_F(Installation, PowerCutAfterTheRunLeavesTheOldOrTheNewInstallation)
+{
+    const QString image = sandbox.filePath("drovia.img");
+    const QString mounted = sandbox.filePath("mounted");
+    MoveToNewHome("power cut");
+    ASSERT_TRUE(QDir().mkpath(UserPath("")) && QDir().mkpath(mounted));
+    ASSERT_EQ(QProcess::execute("truncate", {"-s", "32M", image}), 0);
+    ASSERT_EQ(QProcess::execute("mkfs.ext4", {"-q", image}), 0);
+    ASSERT_EQ(QProcess::execute("mount", {"-o", "loop,commit=1", image, UserPath("")}), 0);
+    InstallForUser(old_build);
+    sync();
+    Ship(5, MakeArchive(new_build));
+    EXPECT_EQ(RunLauncher().exit_code, 0);
+    ASSERT_TRUE(QFile::copy(image, sandbox.filePath("right after")));
+    QThread::msleep(2000);
+    ASSERT_TRUE(QFile::copy(image, sandbox.filePath("after the commit")));
+    EXPECT_EQ(QProcess::execute("umount", {"--lazy", UserPath("")}), 0);  // the client runs from there
+    for (const char* copy : {"right after", "after the commit"}) {
+        ASSERT_EQ(QProcess::execute("mount", {"-o", "loop", sandbox.filePath(copy), mounted}), 0);
+        const TreeSnapshot bundle_left = SnapshotOfFolder(mounted + "/" + layout::kBundleName);
+        EXPECT_TRUE(bundle_left == SnapshotOfEntries(new_build) ||
+                    bundle_left == SnapshotOfEntries(old_build))
+            << copy << ": " << ::testing::PrintToString(bundle_left);
+        EXPECT_EQ(QProcess::execute("umount", {mounted}), 0);
+    }
+}
 
 // One copy in a downloads folder, one installed: each has its own
 // single-instance guard, and both share the user's installation.
 TEST_F(Installation, TwoBundleCopiesTogetherEndWithOneInstallationAndOneClient)
 {
+    Ship(5, MakeArchive(new_build));
     const QString downloads = "Downloads/Drovia.app";
     ASSERT_TRUE(QDir().mkpath(sandbox.filePath(downloads)));
     ASSERT_EQ(QProcess::execute("cp", {"-RT", bundle, sandbox.filePath(downloads)}), 0);
     for (int trial = 0; trial < Repetitions(4, 40); ++trial) {
-        InstallOldBuild("trial " + std::to_string(trial), 100);
+        InstallOldBuild(QString("trial %1").arg(trial));
         QProcess installed;
         QProcess downloaded;
         StartLauncher(installed, Environment());
@@ -72,56 +221,7 @@ TEST_F(Installation, TwoBundleCopiesTogetherEndWithOneInstallationAndOneClient)
         EXPECT_TRUE(installed.waitForFinished() && downloaded.waitForFinished());
         EXPECT_EQ(installed.exitCode() + downloaded.exitCode(), 0);
         EXPECT_TRUE(LogMessages().filter("already launched").isEmpty()) << "one copy kept the other out";
-        ExpectOneCompleteInstallation("trial " + std::to_string(trial));
-    }
-}
-
-TEST_F(Installation, EveryInterruptionConvergesOnTheNextRun)
-{
-    // Kills when the file system shows a stage, so that they land in each
-    // whatever the load; the old client takes two seconds to stop where that
-    // stage is aimed at.
-    struct Moment {
-        std::string stage;
-        std::function<bool()> reached;
-        const char* old_client = "";
-    };
-    const auto backup_made = [this] { return QFileInfo::exists(UserPath("Drovia.app_tmp")); };
-    const auto new_build_in = [this] { return InstalledBuild() == "5"; };
-    std::vector<Moment> moments = {
-        {"stopping the old client", [this] { return !LogMessages().filter("local appdata exist").isEmpty(); },
-         "slow-exit"},
-        {"backup made", backup_made},
-        {"unpacking",
-         [this] { return QFileInfo::exists(UserPath("Drovia.app/Contents/Resources/new/150")); }},
-        {"cleaning up", [&] { return new_build_in() && backup_made(); }},
-        {"starting the client", [&] { return new_build_in() && !backup_made(); }},
-    };
-    // And at random moments of an uninterrupted run. The old installation is
-    // big enough that deleting its backup takes a while.
-    const int old_files = 1500;
-    InstallOldBuild("uninterrupted", old_files);
-    const qint64 run_length = RunLauncher().milliseconds;
-    QElapsedTimer since_start;
-    std::mt19937 random(20261123);
-    for (int kill = 0; kill < Repetitions(3, 200); ++kill) {
-        const qint64 delay = random() % (run_length + 1);
-        const std::string stage = "kill " + std::to_string(kill) + " after " + std::to_string(delay) + " ms";
-        moments.push_back({stage, [&, delay] { return since_start.elapsed() >= delay; }});
-    }
-
-    for (const Moment& moment : moments) {
-        InstallOldBuild(moment.stage, old_files);
-        StartClient(moment.old_client);
-        QProcess launcher;
-        StartLauncher(launcher, Environment());
-        since_start.start();
-        while (!moment.reached() && !launcher.waitForFinished(1)) {
-        }
-        launcher.kill();
-        launcher.waitForFinished();
-        EXPECT_EQ(RunLauncher().exit_code, 0) << moment.stage;
-        ExpectOneCompleteInstallation(moment.stage);
+        ExpectInstalled(new_build, "5", QString("trial %1").arg(trial));
     }
 }
 

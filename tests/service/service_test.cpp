@@ -94,40 +94,36 @@ TEST_F(ServiceTest, UpgradeDecisionFollowsBuildNumbersAndClientPresence)
     EXPECT_NE(log.Text().find("Failed to launch Drovia UI"), std::string::npos) << "the client cannot run";
 }
 
-TEST_F(ServiceTest, InstallationBacksUpThenCleansUpOrRollsBack)
+TEST_F(ServiceTest, InstallationReplacesTheBundleWholeOrNotAtAll)
 {
     UseBundle();
-    // Read-only folders stay writable for their owner, so that their backup can go later.
+    // Read-only folders stay writable for their owner, so that the replaced tree can go later.
     std::vector<PackageEntry> files = {
         {"marker", "new"}, {"ro", "", EntryKind::Folder, 0555}, {"ro/f", "", {}, 0444}};
     const std::string good = MakeArchive(ClientBundle(5, files));
     files.push_back({"../refused", "out"});  // fails after the others, before the version file
     const std::string bad = MakeArchive(ClientBundle(5, files));
-    const auto backup = [this](char index) {
-        return user_app + "_tmp" + (index == '0' ? "" : QString(index));
+    // What lies beside the bundle: backups by index, 'n' the staging folder.
+    const auto beside = [this](char index) {
+        return user_app + (index == 'n' ? "_new" : "_tmp" + (index == '0' ? "" : QString(index)));
     };
-    // Whether build 4 is installed, the backup names earlier runs left (by index), and then the
-    // marker of the installation, the backup names left by the installation and once the run is over.
+    // Whether build 4 is installed, what earlier runs left beside it, then the result and the marker
+    // of the installation (empty: none).
     const struct {
         const char* name;
         bool old;
-        const char* occupied;
+        const char* left_before;
         const std::string& package;
         int result;
-        const char *marker, *left_by_install, *left;
+        const char* marker;
     } rows[] = {
-        {"fresh install", false, "0", good, 0, "new", "", ""},
-        {"first name taken", true, "02", good, 0, "new", "2", ""},
-        {"only the tenth name free", true, "012345678", good, 0, "new", "", ""},
-        {"every name taken", true, "0123456789", good, -1, "old", "0123456789", ""},
-        {"rolled back", true, "", bad, -1, "old", "", ""},
-        {"nothing to roll back to", false, "0", bad, -1, "new", "0", "0"},
-    };
-    const auto left_backups = [&] {
-        std::string left;
-        for (char index = '0'; index <= '9'; ++index)
-            left += QFileInfo::exists(backup(index)) ? std::string(1, index) : "";
-        return left;
+        {"fresh install", false, "", good, 0, "new"},
+        {"backup of an interrupted commit", false, "0", good, 0, "new"},
+        {"leftovers beside the bundle", true, "02n", good, 0, "new"},
+        {"every backup name taken", true, "0123456789", good, 0, "new"},
+        {"rolled back", true, "n", bad, -1, "old"},
+        {"backup put back, then rolled back", false, "0", bad, -1, "earlier"},
+        {"nothing to roll back to", false, "", bad, -1, ""},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -135,15 +131,16 @@ TEST_F(ServiceTest, InstallationBacksUpThenCleansUpOrRollsBack)
         Ship(5, row.package);
         if (row.old)
             InstallForUser(4);
-        for (const char* index = row.occupied; *index != '\0'; ++index)
-            ASSERT_TRUE(WriteBytes(backup(*index) + "/marker", "earlier"));
+        for (const char* index = row.left_before; *index != '\0'; ++index)
+            ASSERT_TRUE(WriteBytes(beside(*index) + "/marker", "earlier"));
 
         MacService service;
+        service.SettleUserEnv();
         EXPECT_EQ(service.PrepareUserEnv(), row.result);
-        EXPECT_EQ(left_backups(), row.left_by_install);
-        service.RemoveAgedFolders();
-        EXPECT_EQ(left_backups(), row.left);
+        service.SettleUserEnv();
         EXPECT_EQ(ReadBytes(user_app + "/marker"), row.marker);
+        EXPECT_EQ(QDir(user_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                  *row.marker ? QStringList("Drovia.app") : QStringList());
         EXPECT_EQ(QFileInfo(user_app + "/ro").permissions().testFlag(QFile::WriteOwner),
                   row.marker == std::string("new"));
     }
@@ -172,7 +169,7 @@ TEST_F(ServiceTest, DamagedPackagesLeaveTheOldInstallationAndNothingElse)
 
         MacService service;
         const TreeSnapshot expected = service.PrepareUserEnv() == 0 ? unpacked : old_installation;
-        service.RemoveAgedFolders();
+        service.SettleUserEnv();
 
         EXPECT_EQ(SnapshotOfFolder(user_app), expected) << "variant " << variant;
         EXPECT_EQ(SnapshotOfFolder(home.path()).size(), expected.size() + 2) << "more in the home folder";

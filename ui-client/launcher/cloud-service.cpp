@@ -7,7 +7,6 @@
 #include <QSettings>
 #include <QString>
 
-#include <cstdio>
 #include <utility>
 
 #include "extractor.h"
@@ -15,13 +14,12 @@
 #include "install-layout.h"
 #include "log.h"
 #include "qt-ustring.h"
+#include "upgrade-transaction.h"
 
 #define LOG_COMPONENT "service_debug"
 #define LOG_TAG "cloud-service"
 
 namespace {
-
-const int kBackupNumberSize = 8;
 
 // A FIFO or a device in the version file's place would block the settings
 // reader or never end.
@@ -51,59 +49,6 @@ void ReadVersionFile(const ustring& path, ustring& major, ustring& minor, ustrin
     for (const auto& [key, field] : keys) {
         if (settings.contains(QLatin1String(key)))
             *field = ToUstring(settings.value(QLatin1String(key)).toString());
-    }
-}
-
-// Index 0 has no number, so the first backup of Drovia.app is Drovia.app_tmp.
-ustring GetAppBackupDir(const ustring& app, int n)
-{
-    const ustring dir = app + layout::kBackupSuffix;
-    if (n == 0)
-        return dir;
-    char number[kBackupNumberSize];
-    if (snprintf(number, sizeof(number), "%d", n) < 0) {
-        LOG_MSG_WITHOUT_NEWLINE(ERROR, "snprintf failed (continuing without postfix)");
-        number[0] = '\0';
-    }
-    return dir + number;
-}
-
-// Moves app to the first backup name the file layer accepts. Returns the
-// index used and sets backup, or -1 when every name was refused.
-int MoveAppAside(const ustring& app, ustring& backup)
-{
-    for (int index = 0; index < layout::kBackupNames; ++index) {
-        backup = GetAppBackupDir(app, index);
-        if (FSRename(app, backup, false) == FS_OK)
-            return index;
-        LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'", app.c_str_utf8(), backup.c_str_utf8());
-    }
-    LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting", app.c_str_utf8(),
-            backup.c_str_utf8());
-    return -1;
-}
-
-// Lower indices go too: they are backups that earlier runs could not clean up.
-// A backup that refuses to go only costs disk space, so failures are ignored.
-void RemoveBackups(const ustring& app, int last_index)
-{
-    for (int index = 0; index <= last_index; ++index)
-        FSRemove(GetAppBackupDir(app, index), false);
-}
-
-// Backups that interrupted runs left behind go once a complete installation
-// is in place: its version file is the package's last entry. Until then one
-// of them may hold the user's last working client.
-void RemoveLeftoverBackups(const ustring& app, const ustring& version_file)
-{
-    if (!IsFileExist(version_file, false))
-        return;
-    for (int index = 0; index < layout::kBackupNames; ++index) {
-        const ustring backup = GetAppBackupDir(app, index);
-        if (IsFileExist(backup, false)) {
-            LOG_MSG(INFO, "removing leftover backup %s", backup.c_str_utf8());
-            FSRemove(backup, false);
-        }
     }
 }
 
@@ -168,7 +113,7 @@ void Service::LoadSourceVersion()
 int Service::ExtractPackage()
 {
     const ustring archive = GetRootDroviaResourceInstallPath() + "/" + layout::kPackageArchive;
-    const ustring destination = GetUserDroviaAppInstallPath();
+    const ustring destination = UpgradeTransaction::StagingFolder(user_app_path);
     if (FSMKDir(destination, true) != FS_OK) {
         LOG_MSG(ERROR, "failed to create folder: '%s'", destination.c_str_utf8());
         return -1;
@@ -180,33 +125,33 @@ int Service::ExtractPackage()
     return extractor.Extract();
 }
 
+// The old installation stays untouched until the whole package is unpacked
+// and durable beside it; only then do the two change places.
 int Service::PrepareUserEnv()
 {
-    const ustring app = user_app_path;
-    ustring backup;
-    int backup_index = 0;
-    if (IsFileExist(app, false)) {
-        backup_index = MoveAppAside(app, backup);
-        if (backup_index < 0)
-            return -1;
-    }
-
-    if (ExtractPackage() == 0) {
-        LOG_MSG(INFO, "user installation is ready, removing backup app");
-        RemoveBackups(app, backup_index);
-        return 0;
-    }
-
-    if (backup.empty()) {
-        LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback");
+    UpgradeTransaction upgrade(user_app_path);
+    if (upgrade.Begin() != 0)
+        return -1;
+    if (ExtractPackage() != 0) {
+        if (IsFileExist(user_app_path, false))
+            LOG_MSG(ERROR, "Failed to extract package, rollback to old installation");
+        else
+            LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback");
+        upgrade.Abandon();
         return -1;
     }
-    LOG_MSG(ERROR, "Failed to extract package, rollback to old installation");
-    // A rollback that fails half-way has no better fallback than what the
-    // file layer leaves; the caller already learns that the upgrade failed.
-    FSRemove(app, false);
-    FSRename(backup, app, false);
-    return -1;
+    if (upgrade.Commit() != 0) {
+        LOG_MSG(ERROR, "failed to put the new installation in place, keeping the old one");
+        upgrade.Abandon();
+        return -1;
+    }
+    LOG_MSG(INFO, "user installation is ready, removing backup app");
+    return 0;
+}
+
+void Service::SettleUserEnv()
+{
+    UpgradeTransaction(user_app_path).Settle();
 }
 
 void Service::RemoveAgedFolders()
@@ -214,7 +159,6 @@ void Service::RemoveAgedFolders()
     const ustring aged = GetUserDroviaInstallPath() + "/" + layout::kAgedAppFolder;
     LOG_MSG(INFO, "removing aged app folder %s", aged.c_str_utf8());
     FSRemove(aged, false);
-    RemoveLeftoverBackups(GetUserDroviaAppInstallPath(), PerUserVersionFile());
 }
 
 ustring Service::PerUserVersionFile()

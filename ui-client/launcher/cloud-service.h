@@ -4,8 +4,9 @@
 #include "ustring.h"
 
 // The upgrade service: where the bundle and the per-user installation live,
-// the version information of both, and the installation with backup and
-// rollback. Platform classes supply stopping and starting the client.
+// the version information of both, and the installation of the package as
+// one transaction (upgrade-transaction.h). Platform classes supply stopping
+// and starting the client.
 //
 // The virtual operations keep their order: platform classes replace single
 // steps, and the steps call each other through the virtual table.
@@ -18,17 +19,20 @@ public:
     virtual void PostUpgrade() = 0;
     virtual void PreUpgrade() = 0;
     virtual bool IsNeedUpgrade() = 0;
-    // Unpacks the bundle's package archive into the per-user bundle.
+    // Unpacks the bundle's package archive into the per-user bundle's
+    // staging folder.
     virtual int ExtractPackage();
     // Fill the "source_" (per-user) and "target_" (bundle) version fields.
     virtual void LoadSourceVersion();
     virtual void LoadTargetVersion();
-    // Moves the per-user bundle aside, unpacks the package, then deletes the
-    // backup or puts it back. 0 on success, -1 on failure.
+    // Unpacks the package beside the per-user bundle, then swaps the two.
+    // 0 on success; -1 on failure, with the bundle as it was.
     virtual int PrepareUserEnv();
 
-    // Deletes the folder that an older layout kept beside the bundle, and
-    // the backups of interrupted runs once the installation is complete.
+    // Finishes or undoes an upgrade that a run did not finish, and removes
+    // the tree that an upgrade replaced.
+    void SettleUserEnv();
+    // Deletes the folder that an older layout kept beside the bundle.
     void RemoveAgedFolders();
 
     // Locations derived from the home folder and the launcher's own

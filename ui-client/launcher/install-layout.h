@@ -24,6 +24,9 @@ inline constexpr char kAgedAppFolder[] = "app";
 // A moved-aside bundle is the bundle's name with this suffix and a number.
 inline constexpr char kBackupSuffix[] = "_tmp";
 inline constexpr int kBackupNames = 10;
+// The bundle's name with this suffix: where an upgrade unpacks the package,
+// and where the tree it replaced waits to be removed.
+inline constexpr char kStagingSuffix[] = "_new";
 
 // In a bundle, the launcher's own or the per-user one.
 inline constexpr char kResourcesFolder[] = "Contents/Resources";

@@ -24,7 +24,8 @@ InstallationLock::InstallationLock(const ustring& path) : path(path)
 
 InstallationLock::~InstallationLock()
 {
-    Release();
+    if (fd >= 0)
+        close(fd);
 }
 
 bool InstallationLock::TryAcquire()
@@ -35,13 +36,6 @@ bool InstallationLock::TryAcquire()
 void InstallationLock::Acquire()
 {
     Lock(LOCK_EX);
-}
-
-void InstallationLock::Release()
-{
-    if (fd >= 0)
-        close(fd);
-    fd = -1;
 }
 
 // Close-on-exec, so that the client the launcher starts never holds it.

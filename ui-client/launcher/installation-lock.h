@@ -18,9 +18,8 @@ public:
     // be taken at all (no folder for its file) counts as held: the launcher
     // must still start the client.
     bool TryAcquire();
-    // Waits until the lock is held.
+    // Waits until the lock is held. The lock is released when the object goes.
     void Acquire();
-    void Release();
 
 private:
     bool Lock(int operation);

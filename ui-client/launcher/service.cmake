@@ -11,5 +11,6 @@ target_sources(launcher_core PRIVATE
     entry-guard.cpp
     extractor.cpp
     mac/mac-service.cpp
+    upgrade-transaction.cpp
     utf8-names.cpp
     ${CLIENT_PROCESS_SOURCE})

@@ -58,6 +58,7 @@ void Worker::HandleServicce()
     LOG_MSG(DEBUG, "running");
     InstallationLock lock(Service::GetUserDroviaInstallPath() + "/" + layout::kLockFile);
     WaitForOtherLaunchers(lock);
+    service->SettleUserEnv();
     service->PreUpgrade();
     if (service->IsNeedUpgrade())
         UpgradePackage();
@@ -66,9 +67,11 @@ void Worker::HandleServicce()
 
     service->RemoveAgedFolders();
     service->PostUpgrade();
-    lock.Release();
     LOG_MSG(DEBUG, "done");
     emit sigServiceDone();
+    // The tree an upgrade replaced goes while the user already has the dialog
+    // closed and the new client running; other launchers wait until it has.
+    service->SettleUserEnv();
 }
 
 // Another copy of the bundle may be replacing the installation or starting
