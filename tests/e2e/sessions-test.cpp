@@ -37,17 +37,16 @@ void PlantLocks(LauncherSandbox& s)
 }
 
 // A stale pid file, padded with the zero bytes a crash can leave, names the
-// user's editor by now, which leaves a mark when signalled. The launch record
-// names the client.
+// user's editor by now, which leaves a mark when signalled; no file names the
+// client.
 void PidFileOfAnotherProgram(LauncherSandbox& s)
 {
     qint64 editor = 0;
     const QStringList trap = {"sh", "-c", "trap 'touch signalled; exit' TERM; sleep 30 & wait"};
-    ASSERT_TRUE(QProcess::startDetached(s.wrapper[0], s.wrapper.mid(1) + trap, s.sandbox.path(), &editor));
+    ASSERT_TRUE(QProcess::startDetached(s.wrapper[0], s.wrapper.mid(1) + trap, s.home, &editor));
     s.StartClient();
     const std::string padding(64, '\0');
-    ASSERT_TRUE(WriteBytes(s.UserPath(layout::kPidFile), "pid=" + std::to_string(editor) + "\n" + padding) &&
-                WriteBytes(s.UserPath(layout::kLaunchRecord), "pid=" + s.LastStartedPid().toStdString()));
+    ASSERT_TRUE(WriteBytes(s.UserPath(layout::kPidFile), "pid=" + std::to_string(editor) + "\n" + padding));
 }
 
 // What lies beside the home, in it but for the installation, and in the temporary folders.
