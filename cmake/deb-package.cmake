@@ -3,6 +3,7 @@
 #   /opt/drovia/Drovia.app                       the bundle, as `cmake --install` lays it out
 #   /usr/share/applications/drovia.desktop       the menu entry
 #   /usr/share/icons/hicolor/72x72/apps/drovia.png
+#   /usr/share/metainfo/example.velmora.drovia.metainfo.xml   what software centres show
 #   /usr/share/doc/drovia/{copyright,changelog.gz}, /usr/share/lintian/overrides/drovia
 # The files outside the bundle form the component "deb", which a plain
 # `cmake --install` leaves out, so that it still installs only the bundle,
@@ -25,6 +26,8 @@ install(FILES ${deb_generated}/${deb_name}.desktop
     DESTINATION ${deb_share}/applications COMPONENT deb EXCLUDE_FROM_ALL)
 install(FILES ${icon_source} RENAME ${deb_name}.png
     DESTINATION ${deb_share}/icons/hicolor/72x72/apps COMPONENT deb EXCLUDE_FROM_ALL)
+install(FILES ${deb_files}/example.velmora.drovia.metainfo.xml
+    DESTINATION ${deb_share}/metainfo COMPONENT deb EXCLUDE_FROM_ALL)
 install(FILES ${deb_files}/copyright
     DESTINATION ${deb_doc} COMPONENT deb EXCLUDE_FROM_ALL)
 install(FILES ${deb_files}/lintian-overrides RENAME ${deb_name}

@@ -11,7 +11,7 @@ PACKAGES=(
     xvfb x11-apps x11-utils imagemagick
     clang libclang-rt-14-dev
     python3 gnuplot-nox strace
-    dpkg-dev lintian desktop-file-utils
+    dpkg-dev lintian desktop-file-utils appstream
 )
 
 missing=()

@@ -17,6 +17,7 @@ APP="/opt/$NAME/Drovia.app"
 LAUNCHER="$APP/Contents/MacOS/launcher"
 LEVEL_FILE="$APP/log/launcher.debug"
 DESKTOP_ENTRY="/usr/share/applications/$NAME.desktop"
+METAINFO="/usr/share/metainfo/example.velmora.$NAME.metainfo.xml"
 TIMEOUT=100  # tenths of a second
 
 skip() {
@@ -31,7 +32,7 @@ fail() {
 if [ "${IN_PID_NAMESPACE:-}" != 1 ]; then
     [ "${DROVIA_SANITIZE:-0}" = 0 ] || skip "sanitizer binaries need ASan at run time; the plain build runs this test"
     [ "$(id -u)" -eq 0 ] || skip "installing a package needs root"
-    for tool in dpkg cpack lintian desktop-file-validate Xvfb xwininfo import unshare; do
+    for tool in dpkg cpack lintian desktop-file-validate appstreamcli Xvfb xwininfo import unshare; do
         command -v "$tool" > /dev/null || skip "$tool is not installed"
     done
     if dpkg-query -W "$NAME" > /dev/null 2>&1 || [ -e "/opt/$NAME" ]; then
@@ -108,6 +109,8 @@ lintian --fail-on error "$OLD" > "$SCRATCH/lintian.log" 2>&1 || fail "lintian: $
 # Build N, installed and run for a user who has no copy yet.
 dpkg -i "$OLD" > /dev/null
 problems="$(desktop-file-validate "$DESKTOP_ENTRY" 2>&1)" && [ -z "$problems" ] || fail "menu entry: $problems"
+appstreamcli validate --no-net "$METAINFO" > "$SCRATCH/appstream.log" 2>&1 ||
+    fail "software centre data: $(cat "$SCRATCH/appstream.log")"
 grep -qx "Exec=$LAUNCHER" "$DESKTOP_ENTRY" && [ -x "$LAUNCHER" ] || fail "the menu entry does not start $LAUNCHER"
 [ -f "/usr/share/icons/hicolor/72x72/apps/$NAME.png" ] || fail "no icon in the hicolor theme"
 mkdir -p "$APP/log"

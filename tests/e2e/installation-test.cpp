@@ -47,7 +47,7 @@ protected:
     std::vector<Call> RecordCalls(const QStringList& strace_options)
     {
         const QString trace = sandbox.filePath("calls");
-        RunLauncher(Environment(), Strace(strace_options + QStringList{"-o", trace, "-e", kChangingCalls}));
+        RunUnderStrace(strace_options + QStringList{"-o", trace, "-e", kChangingCalls});
         std::vector<Call> calls;
         std::map<std::pair<QString, QString>, int> made;  // by thread and name
         const QRegularExpression call("^(\\d+) +(\\w+)\\(", QRegularExpression::MultilineOption);
@@ -59,16 +59,18 @@ protected:
     }
 
     // The client the launcher starts runs on untraced.
-    QStringList Strace(const QStringList& options) const
+    void RunUnderStrace(const QStringList& options)
     {
-        return QStringList{QStandardPaths::findExecutable("strace"), "-f", "-qq", "-b", "execve"} + options;
+        wrapper =
+            QStringList{QStandardPaths::findExecutable("strace"), "-f", "-qq", "-b", "execve"} + options;
+        RunLauncher();
+        wrapper.clear();
     }
 
-    LauncherRun RunStoppedAt(const Call& call, const QStringList& strace_options, const char* signal = "KILL")
+    void RunStoppedAt(const Call& call, const QStringList& strace_options, const char* signal = "KILL")
     {
         const QString inject = QString("%1:signal=%2:when=%3").arg(call.first, signal).arg(call.second);
-        return RunLauncher(Environment(),
-                           Strace(strace_options + QStringList{"-o", "/dev/null", "-e", "inject=" + inject}));
+        RunUnderStrace(strace_options + QStringList{"-o", "/dev/null", "-e", "inject=" + inject});
     }
 
     void ExpectInstalled(const std::vector<PackageEntry>& entries, const char* build, const QString& context)

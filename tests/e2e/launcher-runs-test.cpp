@@ -1,11 +1,9 @@
 // Whole runs of the launcher: installing, finding nothing to do, waiting for
 // another launcher, rolling back on a full disk, logging without a log
-// folder; and the client's life: only the per-user client is ever signalled,
-// and the client the launcher starts shares nothing with it.
+// folder; and the client the launcher starts shares nothing with it.
 #include <sys/mount.h>
 #include <unistd.h>
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -19,19 +17,13 @@ namespace {
 
 using LauncherRuns = LauncherSandbox;
 
-// Files of the single-instance lock's name stop nothing: one in the shared
-// temporary folder that another user planted and holds, nor an empty one a
-// killed launcher left in the lock's own folder.
+// An empty file of the single-instance lock's name, which a killed launcher
+// left in the lock's own folder, stops nothing.
 TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
 {
     Ship(5);
     ASSERT_TRUE(WriteBytes(UserPath("app/left-over"), "aged"));
-    const QString id =
-        QFileInfo(bundle + "/Contents/MacOS/launcher").canonicalFilePath() + "\n" + QString::number(getuid());
-    const QString lock = "qtsingleapp-launch-" +
-                         QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex() + ".lock";
-    const int planted = HoldLock(sandbox.filePath("tmp/" + lock));
-    ASSERT_TRUE(planted >= 0 && WriteBytes(UserPath(lock), ""));
+    ASSERT_TRUE(WriteBytes(UserPath(QString(layout::kRuntimeFolder) + "/" + InstanceLockName(getuid())), ""));
 
     const LauncherRun first = RunLauncher();
     EXPECT_EQ(first.exit_code, 0) << first.err.toStdString();
@@ -60,7 +52,6 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
     EXPECT_EQ(second_log.filter("already runs as process").size(), 1) << second_log.join('\n').toStdString();
     EXPECT_EQ(StartedBuilds(), QStringList{"5"}) << "a second client started";
     EXPECT_EQ(RunningBuilds(), QStringList{"5"});
-    close(planted);
 }
 
 // Another launcher of the user's, from another copy of the bundle, is upgrading:
@@ -108,38 +99,6 @@ TEST_F(LauncherRuns, FullDiskKeepsTheOldInstallationAndLogsToStandardError)
     EXPECT_TRUE(messages.contains("launcher: Failed to upgrade package")) << run.err.toStdString();
     EXPECT_FALSE(messages.contains("launcher: running")) << "the level file is read only with a log file";
     EXPECT_EQ(umount2(home.toUtf8().constData(), MNT_DETACH), 0);
-}
-
-using ClientLife = LauncherSandbox;
-
-// A stale pid file, padded with the zero bytes a crash can leave, names the
-// user's editor by now. The launch record names the client, whose executable
-// an interrupted upgrade replaced: it is the client all the same.
-TEST_F(ClientLife, OnlyTheClientIsStoppedThoughItsPidFileNamesAnotherProgram)
-{
-    InstallForUser(ClientBundle(4));
-    Ship(5);
-    StartClient();
-    const QString executable = UserPath("Drovia.app/Contents/MacOS/cloud-ui");
-    ASSERT_TRUE(QFile::copy(executable, executable + ".new"));
-    ASSERT_EQ(rename(qPrintable(executable + ".new"), qPrintable(executable)), 0);
-    QProcess editor;
-    editor.start("sleep", {"30"});
-    ASSERT_TRUE(editor.waitForStarted());
-    const std::string editor_pid = std::to_string(editor.processId());
-    ASSERT_TRUE(WriteBytes(UserPath(layout::kPidFile), "pid=" + editor_pid + "\n" + std::string(64, '\0')));
-    ASSERT_TRUE(WriteBytes(UserPath(layout::kLaunchRecord), "pid=" + LastStartedPid().toStdString() + "\n"));
-
-    const LauncherRun run = RunLauncher();
-
-    EXPECT_EQ(run.exit_code, 0);
-    EXPECT_LT(run.milliseconds, 4000) << "waited for a process to stop";
-    EXPECT_EQ(editor.state(), QProcess::Running);
-    EXPECT_EQ(InstalledBuild(), "5");
-    EXPECT_EQ(RunningBuilds(), QStringList{"5"}) << "the old client runs on";
-    EXPECT_FALSE(LogMessages().filter("not the Drovia client").isEmpty());
-    editor.kill();
-    editor.waitForFinished();
 }
 
 }  // namespace

@@ -197,6 +197,7 @@ protected:
         return errno == 0 ? 0 : -1;
     }
     void PauseSeconds(unsigned) override { ++pauses; }
+    std::vector<pid_t> ProcessesOfUser() override { return {kEditorPid}; }
     ustring ExecutableOf(pid_t pid) override
     {
         errno = ENOENT;

@@ -1,8 +1,10 @@
 #include "sandbox.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -77,21 +79,22 @@ QProcessEnvironment LauncherSandbox::Environment() const
 
 // By a path relative to the sandbox, which "lib path" then shows.
 void LauncherSandbox::StartLauncher(QProcess& launcher, const QProcessEnvironment& env,
-                                    const QString& bundle_copy, const QStringList& wrapper) const
+                                    const QString& bundle_copy) const
 {
-    QStringList command = wrapper;
-    command << (bundle_copy.isEmpty() ? QString(layout::kBundleName) : bundle_copy) + kLauncher;
     launcher.setProcessEnvironment(env);
     launcher.setWorkingDirectory(sandbox.path());
-    launcher.start(command.takeFirst(), command);
+    const QStringList command =
+        wrapper +
+        QStringList{(bundle_copy.isEmpty() ? QString(layout::kBundleName) : bundle_copy) + kLauncher};
+    launcher.start(command[0], command.mid(1));
 }
 
-LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env, const QStringList& wrapper)
+LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env)
 {
     QElapsedTimer timer;
     timer.start();
     QProcess launcher;
-    StartLauncher(launcher, env, {}, wrapper);
+    StartLauncher(launcher, env);
     LauncherRun run;
     const bool ended = launcher.waitForFinished(kTimeoutMs);
     run.milliseconds = timer.elapsed();
@@ -110,10 +113,20 @@ void LauncherSandbox::StartClient(const char* behaviour) const
     env.insert("DROVIA_STAND_IN", behaviour);
     QProcess client;
     client.setProcessEnvironment(env);
-    client.setProgram(UserPath(layout::kBundleName) + "/" + layout::kClientExecutable);
+    const QStringList command =
+        wrapper + QStringList{UserPath(layout::kBundleName) + "/" + layout::kClientExecutable};
+    client.setProgram(command[0]);
+    client.setArguments(command.mid(1));
     const int started_before = StartLines().size();
     ASSERT_TRUE(client.startDetached());
     ASSERT_EQ(StartedBuilds(started_before + 1).size(), started_before + 1);
+}
+
+QString LauncherSandbox::InstanceLockName(uid_t uid) const
+{
+    const QString id = QFileInfo(bundle + kLauncher).canonicalFilePath() + "\n" + QString::number(uid);
+    return "qtsingleapp-launch-" + QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex() +
+           ".lock";
 }
 
 QStringList LauncherSandbox::LogMessages() const

@@ -22,7 +22,7 @@ struct LauncherRun {
 // to ~/.Drovia/started when it starts. Skips outside namespaces of its own
 // (in-own-namespace.sh).
 class LauncherSandbox : public ::testing::Test {
-protected:
+public:  // to the rows of tables too
     void SetUp() override;
 
     QString UserPath(const QString& relative) const;
@@ -32,13 +32,14 @@ protected:
     void MoveToNewHome(const QString& name);
 
     QProcessEnvironment Environment() const;
-    // wrapper: a program, with its arguments, that runs the launcher.
-    void StartLauncher(QProcess& launcher, const QProcessEnvironment& env, const QString& bundle_copy = {},
-                       const QStringList& wrapper = {}) const;
-    LauncherRun RunLauncher(const QProcessEnvironment& env, const QStringList& wrapper = {});
+    void StartLauncher(QProcess& launcher, const QProcessEnvironment& env,
+                       const QString& bundle_copy = {}) const;
+    LauncherRun RunLauncher(const QProcessEnvironment& env);
     LauncherRun RunLauncher() { return RunLauncher(Environment()); }
     // The installed client, started detached as an earlier session would have.
     void StartClient(const char* behaviour = "") const;
+    // The single-instance lock's file name for the launcher run by user uid.
+    QString InstanceLockName(uid_t uid) const;
 
     QStringList LogMessages() const;
     QStringList StartLines() const;  // "<build> <pid>" for each client started
@@ -51,6 +52,8 @@ protected:
     QTemporaryDir sandbox;
     QString home;
     QString bundle;
+    // What the launcher and the client run through ("setpriv ...", "sh -c ...").
+    QStringList wrapper;
 };
 
 #endif  // SANDBOX_H

@@ -19,6 +19,8 @@ inline constexpr char kPidFile[] = "ui.pid";
 inline constexpr char kLockFile[] = "launcher.lock";
 // The launcher's own record of the last client it started ("pid=<pid>").
 inline constexpr char kLaunchRecord[] = "launched.pid";
+// The launcher's runtime folder (mode 0700) where the session has no private one.
+inline constexpr char kRuntimeFolder[] = "run";
 // A folder of an older layout, deleted on every run.
 inline constexpr char kAgedAppFolder[] = "app";
 // A moved-aside bundle is the bundle's name with this suffix and a number.

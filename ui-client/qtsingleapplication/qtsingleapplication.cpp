@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -9,7 +10,6 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include "install-layout.h"
@@ -65,13 +65,24 @@ QString QtSingleApplication::instanceLockPath()
     return QDir(lockFolder()).filePath(name);
 }
 
-// A folder only its user can write: in the shared temporary folder another
-// user could plant a file of the lock's predictable name and keep every
-// launch from running.
+QString QtSingleApplication::privateRuntimeFolder()
+{
+    const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+    struct stat folder;
+    if (runtime.isEmpty() || stat(runtime.constData(), &folder) != 0)
+        return QString();
+    const bool closed =
+        S_ISDIR(folder.st_mode) && folder.st_uid == getuid() && (folder.st_mode & 0777) == 0700;
+    return closed ? QFile::decodeName(runtime) : QString();
+}
+
+// A folder only its user can write: in a folder open to others another user
+// could plant a file of the lock's predictable name, hold its lock and keep
+// every launch from running.
 QString QtSingleApplication::lockFolder()
 {
-    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (!runtime.isEmpty() && QFileInfo(runtime).isDir())
+    const QString runtime = privateRuntimeFolder();
+    if (!runtime.isEmpty())
         return runtime;
     // Without one, the launcher's own folder in the home folder.
     const QString home = QDir::homePath() + "/" + layout::kUserFolder;

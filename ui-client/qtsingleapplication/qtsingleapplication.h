@@ -5,7 +5,8 @@
 
 // An application object that knows whether another copy of the same
 // executable, run by the same user, is alive. The first copy holds a lock on
-// a file in the user's runtime folder (or ~/.Drovia) for as long as it lives.
+// a file in the user's private runtime folder (or ~/.Drovia) for as long as
+// it lives.
 class QtSingleApplication : public QApplication {
     Q_OBJECT
 
@@ -15,6 +16,10 @@ public:
 
     // True when another live instance holds the lock.
     bool isRunning();
+
+    // $XDG_RUNTIME_DIR if it is the user's and closed to others (mode 0700),
+    // as the XDG rules want it; else empty.
+    static QString privateRuntimeFolder();
 
 private:
     static QString instanceLockPath();

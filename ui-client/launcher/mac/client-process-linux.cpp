@@ -1,12 +1,15 @@
 #include "mac/client-process.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <climits>
+#include <cstdlib>
 #include <string>
 
 #include "install-layout.h"
@@ -71,6 +74,26 @@ ustring ExecutableOf(pid_t pid)
     if (EndsWith(executable, kDeletedMark))
         executable.resize(executable.size() - (sizeof kDeletedMark - 1));
     return ustring(executable);
+}
+
+// A process's folder in /proc belongs to the user the process runs as.
+std::vector<pid_t> ProcessesOfUser()
+{
+    std::vector<pid_t> pids;
+    DIR* proc = opendir("/proc");
+    if (proc == nullptr)
+        return pids;
+    const uid_t user = getuid();
+    while (const dirent* entry = readdir(proc)) {
+        char* end = nullptr;
+        const long pid = std::strtol(entry->d_name, &end, 10);
+        struct stat owner;
+        if (pid > 0 && pid <= INT_MAX && *end == '\0' &&
+            fstatat(dirfd(proc), entry->d_name, &owner, 0) == 0 && owner.st_uid == user)
+            pids.push_back(static_cast<pid_t>(pid));
+    }
+    closedir(proc);
+    return pids;
 }
 
 // posix_spawn rather than a fork: a fork makes every page of the launcher

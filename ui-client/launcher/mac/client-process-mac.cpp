@@ -1,6 +1,7 @@
 #include "mac/client-process.h"
 
 #include <libproc.h>
+#include <unistd.h>
 
 #include <QDesktopServices>
 #include <QUrl>
@@ -22,6 +23,18 @@ ustring ExecutableOf(pid_t pid)
         return ustring();
     }
     return ustring(path);
+}
+
+std::vector<pid_t> ProcessesOfUser()
+{
+    const int size = proc_listpids(PROC_UID_ONLY, getuid(), nullptr, 0);
+    if (size <= 0)
+        return {};
+    std::vector<pid_t> pids(static_cast<size_t>(size) / sizeof(pid_t));
+    const int filled =
+        proc_listpids(PROC_UID_ONLY, getuid(), pids.data(), static_cast<int>(pids.size() * sizeof(pid_t)));
+    pids.resize(filled > 0 ? static_cast<size_t>(filled) / sizeof(pid_t) : 0);
+    return pids;
 }
 
 pid_t OpenBundle(const ustring& bundle_path)

@@ -3,6 +3,8 @@
 
 #include <sys/types.h>
 
+#include <vector>
+
 #include "ustring.h"
 
 // The per-user client as a process of the platform. macOS asks the desktop to
@@ -18,6 +20,10 @@ extern const bool kOpeningFindsRunningClient;
 // The executable that process pid runs, with every link resolved. Empty with
 // errno set when that cannot be told: ENOENT when there is no such process.
 ustring ExecutableOf(pid_t pid);
+
+// The processes of the user who runs the launcher; empty when the system
+// does not tell.
+std::vector<pid_t> ProcessesOfUser();
 
 // Starts the client of the bundle at bundle_path without arguments and
 // without waiting for it. Returns its process id, 0 when the desktop started

@@ -6,11 +6,13 @@
 #include <QByteArray>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 #include <thread>
 
 #include "config.h"
@@ -29,6 +31,10 @@ const int kDefaultTimeout = 10000;
 const char kPidKey[] = "pid";
 const int kExitProbes = 5;
 const unsigned kProbeIntervalSeconds = 1;
+
+// Bundles beside the installed one, whose client may still run: moved aside
+// by an upgrade (Drovia.app_tmp) or being unpacked (Drovia.app_new).
+const char kBundleVariantMark = '_';
 
 enum PidFileState { PID_FILE_MISSING, PID_FILE_UNREADABLE, PID_FILE_READ };
 
@@ -53,6 +59,28 @@ PidFileState ReadPidFile(const ustring& path, pid_t& pid)
         return PID_FILE_UNREADABLE;
     pid = ClientPid(config.entries[kPidKey]);
     return PID_FILE_READ;
+}
+
+// Whether executable is the client of a bundle in the installation folder,
+// spelled with every link resolved as the system shows it. The file itself
+// may be gone.
+bool IsClientOf(const ustring& installation, const ustring& executable)
+{
+    const std::string path = executable.c_str_utf8();
+    const std::string bundles = std::string(installation.c_str_utf8()) + "/" + layout::kBundleName;
+    const std::string tail = std::string("/") + layout::kClientExecutable;
+    if (path.size() < bundles.size() + tail.size() || path.compare(0, bundles.size(), bundles) != 0 ||
+        path.compare(path.size() - tail.size(), tail.size(), tail) != 0)
+        return false;
+    const std::string variant = path.substr(bundles.size(), path.size() - bundles.size() - tail.size());
+    return variant.empty() || (variant[0] == kBundleVariantMark && variant.find('/') == std::string::npos);
+}
+
+ustring ResolvedInstallation()
+{
+    ustring installation = Service::GetUserDroviaInstallPath();
+    FSGetRealPath(installation);
+    return installation;
 }
 
 }  // namespace
@@ -91,12 +119,13 @@ bool MacService::IsNeedUpgrade()
     return target > source || !client_present;
 }
 
+// A client whose executable is gone may run all the same, from the deleted
+// file: it is stopped too.
 int MacService::HandlePackageUpgrade()
 {
-    if (PerUserBinPathExist()) {
+    if (PerUserBinPathExist())
         LOG_MSG(DEBUG, "local appdata exist");
-        StopService();
-    }
+    StopService();
     return PrepareUserEnv();
 }
 
@@ -118,6 +147,14 @@ void MacService::StopService()
     const pid_t launched = LaunchedClientPid();
     if (launched != pid)
         StopClient(launched);
+    // One that left its first process before writing its pid file, or whose
+    // bundle was moved aside or deleted, is known by what it runs.
+    for (const pid_t client : ClientsByExecutable()) {
+        if (client == pid || client == launched)
+            continue;
+        LOG_MSG(NOTE, "Drovia UI runs as process %d, which no pid file names; stopping it", client);
+        TerminateClient(client);
+    }
 }
 
 void MacService::StopClient(pid_t pid)
@@ -131,7 +168,7 @@ void MacService::StopClient(pid_t pid)
 // executable counts; anything else is left alone, as if no client ran.
 bool MacService::IsPerUserClient(pid_t pid)
 {
-    if (pid <= 0)
+    if (pid <= 0 || WasKilled(pid))
         return false;
     const ustring executable = ExecutableOf(pid);
     if (executable.empty()) {
@@ -140,13 +177,25 @@ bool MacService::IsPerUserClient(pid_t pid)
             LOG_MSG(NOTE, "cannot tell what process %d runs (%s), leaving it alone", pid, strerror(error));
         return false;
     }
-    ustring client = ClientExecutable();
-    FSGetRealPath(client);
-    if (executable == client)
+    if (IsClientOf(ResolvedInstallation(), executable))
         return true;
     LOG_MSG(NOTE, "process %d runs '%s', not the Drovia client, leaving it alone", pid,
             executable.c_str_utf8());
     return false;
+}
+
+std::vector<pid_t> MacService::ClientsByExecutable()
+{
+    const std::vector<pid_t> processes = ProcessesOfUser();
+    if (processes.empty())
+        LOG_MSG(NOTE, "cannot list the processes of this user, finding the client by its pid files only");
+    const ustring installation = ResolvedInstallation();
+    std::vector<pid_t> clients;
+    for (const pid_t pid : processes) {
+        if (pid > 0 && !WasKilled(pid) && IsClientOf(installation, ExecutableOf(pid)))
+            clients.push_back(pid);
+    }
+    return clients;
 }
 
 // SIGTERM first so the client can save its state; SIGKILL only if it is still
@@ -159,8 +208,10 @@ void MacService::TerminateClient(pid_t pid)
             return;
         LOG_MSG(ERROR, "kill: %s (%d)", strerror(error), error);
     }
-    if (!WaitForExit(pid))
+    if (!WaitForExit(pid)) {
         SendSignal(pid, SIGKILL);
+        killed.push_back(pid);
+    }
 }
 
 // True once the process is gone; the first probe comes right after SIGTERM.
@@ -174,6 +225,11 @@ bool MacService::WaitForExit(pid_t pid)
     return false;
 }
 
+bool MacService::WasKilled(pid_t pid) const
+{
+    return std::find(killed.begin(), killed.end(), pid) != killed.end();
+}
+
 int MacService::SendSignal(pid_t pid, int signal_number)
 {
     return kill(pid, signal_number);
@@ -182,6 +238,11 @@ int MacService::SendSignal(pid_t pid, int signal_number)
 void MacService::PauseSeconds(unsigned seconds)
 {
     std::this_thread::sleep_for(std::chrono::seconds(seconds));
+}
+
+std::vector<pid_t> MacService::ProcessesOfUser()
+{
+    return client_process::ProcessesOfUser();
 }
 
 ustring MacService::ExecutableOf(pid_t pid)
@@ -206,8 +267,8 @@ pid_t MacService::LaunchedClientPid() const
     return pid;
 }
 
-// The client that runs now, by its pid file or by the record of the last
-// start; 0 when none runs.
+// The client that runs now, by its pid file, by the record of the last
+// start or by what it runs; 0 when none runs.
 pid_t MacService::RunningClientPid()
 {
     pid_t pid = 0;
@@ -215,7 +276,10 @@ pid_t MacService::RunningClientPid()
     if (IsPerUserClient(pid))
         return pid;
     const pid_t launched = LaunchedClientPid();
-    return launched != pid && IsPerUserClient(launched) ? launched : 0;
+    if (launched != pid && IsPerUserClient(launched))
+        return launched;
+    const std::vector<pid_t> clients = ClientsByExecutable();
+    return clients.empty() ? 0 : clients.front();
 }
 
 int MacService::LaunchPerUserBin()
