@@ -53,8 +53,8 @@ TEST_F(FileOpTest, MakeFoldersStopsAtFilesInTheWayAndHonoursModes)
     EXPECT_EQ(FSMKDirP(At("default/inner/"), nullptr, false, 0xFFFF), 0);
     EXPECT_EQ(FSMKDirP(At("open/inner"), nullptr, false, 0775), 0);
     for (const char* folder : {"default", "default/inner", "open", "open/inner"}) {
-        struct stat st;
-        ASSERT_EQ(stat(At(folder).c_str(), &st), 0);
+        struct stat st = {};
+        EXPECT_EQ(stat(At(folder).c_str(), &st), 0) << folder;
         EXPECT_EQ(st.st_mode & 0777, folder[0] == 'd' ? 0755u : 0775u) << folder;
     }
     EXPECT_EQ(umask(saved), 022u);
