@@ -74,7 +74,7 @@ TEST(Ustring, AppendsAndAssignsItself)
     EXPECT_EQ(UI::bytes(wide), "\xC3\xA9z\xC3\xA9");
 }
 
-TEST(Ustring, SearchesStopAtTheEdges)
+TEST(Ustring, SearchesTrimsAndComparesBytesUpToTheEdges)
 {
     const ustring s("abcdef"), abc("abc"), padded("ab  "), empty;
     const unsigned long npos = ustring::npos;
@@ -96,6 +96,16 @@ TEST(Ustring, SearchesStopAtTheEdges)
     EXPECT_EQ(padded.find_last_of(""), npos);
     EXPECT_EQ(empty.rfind(""), npos);
     EXPECT_EQ(empty.find_last_not_of(""), npos);
+
+    ustring blanks(" \t a b \t"), xs("xxaxx"), ys("yyayy");
+    EXPECT_EQ(UI::units(blanks).size(), 8u);  // trimming drops this form
+    EXPECT_EQ(UI::units(blanks.trim(" \t").trim("")), u"a b");
+    EXPECT_EQ(UI::bytes(xs.ltrim("x")) + UI::bytes(ys.rtrim(ustring("y"))), "axxyya");
+    EXPECT_EQ(UI::bytes(padded.substr(2).ltrim(" ")), "");
+    EXPECT_TRUE(ustring::compare("AZ", "az", true) == 0 && ustring::compare("@", "`", true) &&
+                ustring::compare("[", "{", true) && ustring::compare("\xC3\x84", "\xC3\xA4", true));
+    EXPECT_TRUE(ustring("\xC3\xA9") > ustring("z") && ustring("ab") < abc && abc < ustring("b"));
+    EXPECT_TRUE(abc.compare("abcd") < 0 && abc.compare("abX", 2) == 0);
 }
 
 TEST(Ustring, FailedConversionsWarnAndEmptyTheFailedForm)
