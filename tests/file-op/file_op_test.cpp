@@ -28,11 +28,16 @@ protected:
     const QString root = QFileInfo(scratch.path()).canonicalFilePath();
 };
 
-TEST_F(FileOpTest, CopyReportsAFullDevice)
+TEST_F(FileOpTest, EachFailureHasItsOwnCode)
 {
     Write("src", std::string(100000, 'z'));
-    EXPECT_EQ(FSCopy(At("src"), "/dev/full", true), -2);
+    EXPECT_EQ(FSCopy(At("src"), "/dev/full", true), FS_DEVICE_FULL);
     EXPECT_TRUE(Exists("src")) << "a failed copy never removes its source";
+    EXPECT_EQ(FSRename(At("missing"), At("to"), false), FS_SOURCE_MISSING);
+    EXPECT_EQ(FSRename(At("src"), At(QString(300, 'n')), false), FS_NAME_TOO_LONG);
+    EXPECT_EQ(FSRename(At("src"), At("missing/to"), false), FS_STEP_FAILED);
+    EXPECT_EQ(FSMKDir(At("src"), true), FS_ERROR) << "a file in the way";
+    EXPECT_EQ(FSMKDir(At("missing/sub"), false), FS_NOT_CREATED);
 }
 
 TEST_F(FileOpTest, MakeFoldersStopsAtFilesInTheWayAndHonoursModes)
