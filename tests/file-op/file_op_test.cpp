@@ -28,11 +28,16 @@ protected:
     const QString root = QFileInfo(scratch.path()).canonicalFilePath();
 };
 
-TEST_F(FileOpTest, CopyReportsAFullDevice)
+TEST_F(FileOpTest, EachFailureHasItsOwnCode)
 {
     Write("src", std::string(100000, 'z'));
-    EXPECT_EQ(FSCopy(At("src"), "/dev/full", true), -2);
+    EXPECT_EQ(FSCopy(At("src"), "/dev/full", true), FS_DEVICE_FULL);
     EXPECT_TRUE(Exists("src")) << "a failed copy never removes its source";
+    EXPECT_EQ(FSRename(At("missing"), At("to"), false), FS_SOURCE_MISSING);
+    EXPECT_EQ(FSRename(At("src"), At(QString(300, 'n')), false), FS_NAME_TOO_LONG);
+    EXPECT_EQ(FSRename(At("src"), At("missing/to"), false), FS_STEP_FAILED);
+    EXPECT_EQ(FSMKDir(At("src"), true), FS_ERROR) << "a file in the way";
+    EXPECT_EQ(FSMKDir(At("missing/sub"), false), FS_NOT_CREATED);
 }
 
 TEST_F(FileOpTest, MakeFoldersStopsAtFilesInTheWayAndHonoursModes)
@@ -53,8 +58,8 @@ TEST_F(FileOpTest, MakeFoldersStopsAtFilesInTheWayAndHonoursModes)
     EXPECT_EQ(FSMKDirP(At("default/inner/"), nullptr, false, 0xFFFF), 0);
     EXPECT_EQ(FSMKDirP(At("open/inner"), nullptr, false, 0775), 0);
     for (const char* folder : {"default", "default/inner", "open", "open/inner"}) {
-        struct stat st;
-        ASSERT_EQ(stat(At(folder).c_str(), &st), 0);
+        struct stat st = {};
+        EXPECT_EQ(stat(At(folder).c_str(), &st), 0) << folder;
         EXPECT_EQ(st.st_mode & 0777, folder[0] == 'd' ? 0755u : 0775u) << folder;
     }
     EXPECT_EQ(umask(saved), 022u);

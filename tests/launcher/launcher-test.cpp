@@ -86,7 +86,7 @@ std::string RunLauncher(Outcome outcome)
         .toStdString();
 }
 
-TEST(Launcher, LogsEachOutcomeInOrderShowsTheDialogOnlyToUpgradeAndTruncatesPercentages)
+TEST(Launcher, LogsEachOutcomeInOrderShowingTheDialogOnlyToUpgrade)
 {
     ASSERT_TRUE(QDir().mkpath(QDir::homePath() + "/.Drovia"));  // as main() leaves it, with the log
     const std::string head = "launcher: running|fake: Pre|";
@@ -98,9 +98,12 @@ TEST(Launcher, LogsEachOutcomeInOrderShowsTheDialogOnlyToUpgradeAndTruncatesPerc
               head + "fake: Handle|launcher: Failed to upgrade package" + tail);
     // Closing the last window ends the event loop while the upgrade still runs.
     EXPECT_EQ(RunLauncher({true, 0, true}), head + "fake: Handle" + tail);
+}
 
+TEST(Launcher, ShowsTheEntriesUnpackedInWholePercents)
+{
     Launcher launcher(new Worker(new FakeService({false, 0, false})));
-    const int reports[][3] = {{3, 2, 66}, {7, 7, 100}, {0, 0, 100}};  // total, done, percent
+    const int reports[][3] = {{3, 2, 66}, {7, 7, 100}, {0, 0, 100}};  // total, done, percent shown
     for (const auto& report : reports) {
         Notify_Adapter::GetInstance()->UpdateProgress(report[0], report[1]);
         EXPECT_EQ(Dialog()->value(), report[2]) << report[1] << " of " << report[0];

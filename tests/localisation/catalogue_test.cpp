@@ -68,7 +68,7 @@ TEST_P(CatalogueTest, HoldsOneMessagePerTextKeepingWhatTheProgramNeeds)
     for (const QString& source : sources) {
         SCOPED_TRACE(source.toStdString());
         const QString translation = translator.translate("global", source.toUtf8().constData(), nullptr, -1);
-        ASSERT_FALSE(translation.trimmed().isEmpty()) << "missing or empty";
+        EXPECT_FALSE(translation.trimmed().isEmpty()) << "missing or empty";
         QString letters = source;
         for (const QString& brand : kBrandNames)
             letters.remove(brand);

@@ -62,17 +62,27 @@ TEST_F(LoggerTest, ThresholdsComeFromTheLevelFile)
                                   "L7 lvl_verbose", "L3 lvl_unlisted", "L4 lvl_unlisted"}));
 }
 
-TEST_F(LoggerTest, RotationKeepsOneOldFileFewerThanItsSlotsNewestFirstAndFailsSilent)
+TEST_F(LoggerTest, RotatesPastOneMebibyteKeepingOneOldFileFewerThanItsSlotsNewestFirst)
 {
+    ASSERT_EQ(Open("edge.log", 2), 0);
+    Logger::LogMsg(Logger::LEVEL_ERROR, "big", "%s\n", big.substr(kStampLength + 1).c_str());  // 1 MiB in all
+    EXPECT_FALSE(QFile::exists(dir.filePath("edge.log_0"))) << "rotated at exactly 1 MiB";
+    for (int small = 0; small < 2; ++small)
+        Logger::LogMsg(Logger::LEVEL_ERROR, "big", "\n");
+    EXPECT_EQ(Messages("edge.log_0").size(), 2u) << "not rotated past 1 MiB, or rotated again";
+
     ASSERT_EQ(Open("launcher.log", 50), 0);
     for (int number = 0; number < 52; ++number)
         LogBig(number);
-    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 50);
+    EXPECT_EQ(QDir(dir.path()).entryList({"launcher.log*"}, QDir::Files).size(), 50);
     EXPECT_FALSE(QFile::exists(dir.filePath("launcher.log_49")));
     EXPECT_EQ(Messages("launcher.log_0").at(0).substr(0, 11), "message 51 ");
     EXPECT_EQ(Messages("launcher.log_48").at(0).substr(0, 11), "message 3 z");
+}
 
-    // A non-empty folder in the only slot can neither be removed nor replaced.
+// A non-empty folder in the only slot can neither be removed nor replaced.
+TEST_F(LoggerTest, FailedRotationLeavesTheLoggerSilent)
+{
     ASSERT_TRUE(QDir(dir.path()).mkpath("stuck.log_0/inner"));
     ASSERT_EQ(Open("stuck.log", 1), 0);
     for (int number = 0; number < 3; ++number)

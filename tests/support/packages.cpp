@@ -29,15 +29,8 @@ std::string FileRecord(const std::string& content)
            std::to_string(std::hash<std::string>()(content));
 }
 
-mode_t FileType(EntryKind kind)
-{
-    switch (kind) {
-    case EntryKind::Folder: return AE_IFDIR;
-    case EntryKind::SymbolicLink: return AE_IFLNK;
-    case EntryKind::Fifo: return AE_IFIFO;
-    default: return AE_IFREG;
-    }
-}
+// By EntryKind; a hard link is typed as the file it names.
+const mode_t kFileTypes[] = {AE_IFREG, AE_IFDIR, AE_IFLNK, AE_IFREG, AE_IFIFO};
 
 la_ssize_t AppendToString(archive*, void* sink, const void* data, size_t size)
 {
@@ -50,7 +43,7 @@ bool WriteEntry(archive* writer, const PackageEntry& item)
     std::unique_ptr<archive_entry, decltype(&archive_entry_free)> entry(archive_entry_new(),
                                                                         archive_entry_free);
     archive_entry_set_pathname_utf8(entry.get(), item.name.c_str());
-    archive_entry_set_filetype(entry.get(), FileType(item.kind));
+    archive_entry_set_filetype(entry.get(), kFileTypes[static_cast<int>(item.kind)]);
     archive_entry_set_perm(entry.get(), static_cast<mode_t>(item.mode));
     const bool has_data = item.kind == EntryKind::File;
     if (item.kind == EntryKind::SymbolicLink)

@@ -7,13 +7,15 @@ class UstringInspector {
 public:
     static unsigned long data_capacity(const ustring& s) { return s.data_capacity; }
     static unsigned long wdata_capacity(const ustring& s) { return s.wdata_capacity; }
-    static unsigned long wdata_len(const ustring& s) { return s.wdata_len; }
+    // Both forms by their recorded lengths, which their terminators would hide.
+    static std::string bytes(const ustring& s) { return std::string(s.c_str(), s.size()); }
+    static std::u16string units(const ustring& s)
+    {
+        s.c_str_utf16();  // derives the form if it is not current
+        return std::u16string(reinterpret_cast<const char16_t*>(s.wdata), s.wdata_len);
+    }
 };
 using UI = UstringInspector;
-static std::u16string utf16_of(const ustring& s)
-{
-    return reinterpret_cast<const char16_t*>(s.c_str_utf16());
-}
 
 TEST(Ustring, GrowsToExactFitAndShrinksWhenUnderHalfUsed)
 {
@@ -27,28 +29,30 @@ TEST(Ustring, GrowsToExactFitAndShrinksWhenUnderHalfUsed)
     s = "abc";
     EXPECT_EQ(UI::data_capacity(s), 4u);
     const ustring wide("abcdefghij");
-    EXPECT_EQ(utf16_of(wide), u"abcdefghij");
+    EXPECT_EQ(UI::units(wide), u"abcdefghij");
     EXPECT_EQ(UI::wdata_capacity(wide), 11u);
 }
 
-TEST(Ustring, ConvertsAndNormalizesBeyondTheBmpAndKeepsUtf16StaleAfterInPlaceEdits)
+TEST(Ustring, ConvertsAndNormalizesBeyondTheBmp)
 {
     const char* utf8 = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80";  // a, e-acute, euro, emoji
     const char16_t* utf16 = u"a\u00E9\u20AC\U0001F600";
-    EXPECT_EQ(utf16_of(ustring(utf8)), utf16);
-    EXPECT_STREQ(ustring(reinterpret_cast<const unsigned short*>(utf16)).c_str(), utf8);
+    EXPECT_EQ(UI::units(ustring(utf8)), utf16);
+    EXPECT_EQ(UI::bytes(ustring(reinterpret_cast<const unsigned short*>(utf16))), utf8);
     const ustring decomposed = ustring("\xC3\xA9").normalize(ustring::NFD);
-    EXPECT_STREQ(decomposed.c_str(), "e\xCC\x81");
-    EXPECT_STREQ(ustring::normalize(decomposed, ustring::NFC).c_str(), "\xC3\xA9");
+    EXPECT_EQ(UI::bytes(decomposed), "e\xCC\x81");
+    EXPECT_EQ(UI::bytes(ustring::normalize(decomposed, ustring::NFC)), "\xC3\xA9");
+}
 
-    // In-place edits leave the UTF-16 form stale until it is cleared.
+TEST(Ustring, InPlaceEditsLeaveTheUtf16FormStaleUntilCleared)
+{
     ustring s("a/b");
-    EXPECT_EQ(utf16_of(s), u"a/b");
+    EXPECT_EQ(UI::units(s), u"a/b");
     s.replace('/', '\\');
     s[0] = 'c';
-    EXPECT_EQ(utf16_of(s), u"a/b");
+    EXPECT_EQ(UI::units(s), u"a/b");
     s.clear_wdata();
-    EXPECT_EQ(utf16_of(s), u"c\\b");
+    EXPECT_EQ(UI::units(s), u"c\\b");
 }
 
 TEST(Ustring, AppendsAndAssignsItself)
@@ -61,46 +65,54 @@ TEST(Ustring, AppendsAndAssignsItself)
     t.append(t.c_str(), 3);
     t = t;
     t.assign(t.c_str());
-    EXPECT_STREQ(t.c_str(), "abcdefcdabc");
+    EXPECT_EQ(UI::bytes(t), "abcdefcdabc");
     t.assign(t, 1, 3);
-    EXPECT_STREQ(t.c_str(), "bcd");
+    EXPECT_EQ(UI::bytes(t), "bcd");
     ustring wide("\xC3\xA9z");
     wide.append(wide.c_str_utf16());
     wide.assign(wide.c_str_utf16(), 3);
-    EXPECT_STREQ(wide.c_str(), "\xC3\xA9z\xC3\xA9");
+    EXPECT_EQ(UI::bytes(wide), "\xC3\xA9z\xC3\xA9");
 }
 
-TEST(Ustring, SearchesStopAtTheEdges)
+TEST(Ustring, SearchesTrimsAndComparesBytesUpToTheEdges)
 {
     const ustring s("abcdef"), abc("abc"), padded("ab  "), empty;
-    const unsigned long npos = ustring::npos,
-                        cases[][2] = {{s.find("", 3), 3},
-                                      {s.find('x', 6), npos},
-                                      {s.find("", 6), npos},
-                                      {s.find(std::string("e\0z", 3)), 4},
-                                      {s.find_first_of(""), npos},
-                                      {s.find_first_not_of("", 0), 0},
-                                      {s.find_first_not_of("abcdef"), npos},
-                                      {ustring("a\xC3\xA8").find_first_of("\xC3\xA9"), 1},
-                                      {abc.rfind(""), 2},
-                                      {abc.rfind("bc", 1), 1},
-                                      {abc.rfind(std::string("bc"), 0), npos},
-                                      {abc.rfind('a', 99), 0},
-                                      {padded.find_last_not_of(' '), 1},
-                                      {padded.find_last_not_of(""), 3},
-                                      {padded.find_last_of(" ", 1), npos},
-                                      {padded.find_last_of(""), npos},
-                                      {empty.rfind(""), npos},
-                                      {empty.find_last_not_of(""), npos}};
-    for (const auto& c : cases)
-        EXPECT_EQ(c[0], c[1]) << "case " << &c - cases;
+    const unsigned long npos = ustring::npos;
+    EXPECT_EQ(s.find("", 3), 3u);
+    EXPECT_EQ(s.find('x', 6), npos);
+    EXPECT_EQ(s.find("", 6), npos);
+    EXPECT_EQ(s.find(std::string("e\0z", 3)), 4u);
+    EXPECT_EQ(s.find_first_of(""), npos);
+    EXPECT_EQ(s.find_first_not_of("", 0), 0u);
+    EXPECT_EQ(s.find_first_not_of("abcdef"), npos);
+    EXPECT_EQ(ustring("a\xC3\xA8").find_first_of("\xC3\xA9"), 1u);
+    EXPECT_EQ(abc.rfind(""), 2u);
+    EXPECT_EQ(abc.rfind("bc", 1), 1u);
+    EXPECT_EQ(abc.rfind(std::string("bc"), 0), npos);
+    EXPECT_EQ(abc.rfind('a', 99), 0u);
+    EXPECT_EQ(padded.find_last_not_of(' '), 1u);
+    EXPECT_EQ(padded.find_last_not_of(""), 3u);
+    EXPECT_EQ(padded.find_last_of(" ", 1), npos);
+    EXPECT_EQ(padded.find_last_of(""), npos);
+    EXPECT_EQ(empty.rfind(""), npos);
+    EXPECT_EQ(empty.find_last_not_of(""), npos);
+
+    ustring blanks(" \t a b \t"), xs("xxaxx"), ys("yyayy");
+    EXPECT_EQ(UI::units(blanks).size(), 8u);  // trimming drops this form
+    EXPECT_EQ(UI::units(blanks.trim(" \t").trim("")), u"a b");
+    EXPECT_EQ(UI::bytes(xs.ltrim("x")) + UI::bytes(ys.rtrim(ustring("y"))), "axxyya");
+    EXPECT_EQ(UI::bytes(padded.substr(2).ltrim(" ")), "");
+    EXPECT_TRUE(ustring::compare("AZ", "az", true) == 0 && ustring::compare("@", "`", true) &&
+                ustring::compare("[", "{", true) && ustring::compare("\xC3\x84", "\xC3\xA4", true));
+    EXPECT_TRUE(ustring("\xC3\xA9") > ustring("z") && ustring("ab") < abc && abc < ustring("b"));
+    EXPECT_TRUE(abc.compare("abcd") < 0 && abc.compare("abX", 2) == 0);
 }
 
 TEST(Ustring, FailedConversionsWarnAndEmptyTheFailedForm)
 {
     const ustring invalid("\xC3\x28");
     testing::internal::CaptureStderr();
-    EXPECT_EQ(utf16_of(invalid), u"");
+    EXPECT_EQ(UI::units(invalid), u"");
     EXPECT_THAT(testing::internal::GetCapturedStderr(),
                 testing::MatchesRegex("Warning: u_strFromUTF8: error code [0-9]+ at line 921\n"));
     ustring lone("ab");
@@ -108,5 +120,5 @@ TEST(Ustring, FailedConversionsWarnAndEmptyTheFailedForm)
     lone += static_cast<unsigned short>(0xD800);
     EXPECT_THAT(testing::internal::GetCapturedStderr(),
                 testing::MatchesRegex("Warning: u_strToUTF8: error code [0-9]+ at line 888\n"));
-    EXPECT_TRUE(lone.empty() && UI::wdata_len(lone) == 0u);
+    EXPECT_TRUE(lone.empty() && UI::units(lone).empty());
 }
