@@ -69,8 +69,8 @@ void Worker::HandleServicce()
     service->PostUpgrade();
     LOG_MSG(DEBUG, "done");
     emit sigServiceDone();
-    // The tree an upgrade replaced goes while the user already has the dialog
-    // closed and the new client running; other launchers wait until it has.
+    // The tree an upgrade replaced goes once the dialog is gone and the new
+    // client runs; the lock keeps other launchers waiting until it has.
     service->SettleUserEnv();
 }
 
