@@ -196,7 +196,7 @@ protected:
             errors.pop_front();
         return errno == 0 ? 0 : -1;
     }
-    void PauseSeconds(unsigned) override { ++pauses; }
+    void PauseSeconds(pid_t, unsigned) override { ++pauses; }
     std::vector<pid_t> ProcessesOfUser() override { return {kEditorPid}; }
     ustring ExecutableOf(pid_t pid) override
     {

@@ -2,9 +2,11 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -94,6 +96,21 @@ std::vector<pid_t> ProcessesOfUser()
     }
     closedir(proc);
     return pids;
+}
+
+// A process's descriptor becomes readable when the process ends. Where the
+// kernel has none to give, the pause is a plain one.
+void WaitForEnd(pid_t pid, unsigned seconds)
+{
+    const int milliseconds = static_cast<int>(seconds * 1000);
+    const int process = static_cast<int>(syscall(SYS_pidfd_open, pid, 0));
+    if (process < 0) {
+        poll(nullptr, 0, milliseconds);
+        return;
+    }
+    pollfd ended = {process, POLLIN, 0};
+    poll(&ended, 1, milliseconds);
+    close(process);
 }
 
 // posix_spawn rather than a fork: a fork makes every page of the launcher

@@ -25,6 +25,10 @@ ustring ExecutableOf(pid_t pid);
 // does not tell.
 std::vector<pid_t> ProcessesOfUser();
 
+// Waits for seconds, or less once process pid has ended: a client that
+// leaves at once on SIGTERM keeps nobody waiting for the next probe.
+void WaitForEnd(pid_t pid, unsigned seconds);
+
 // Starts the client of the bundle at bundle_path without arguments and
 // without waiting for it. Returns its process id, 0 when the desktop started
 // it and the id is not known, or -1 when the start was refused.

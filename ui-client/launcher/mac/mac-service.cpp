@@ -8,12 +8,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <string>
-#include <thread>
 
 #include "config.h"
 #include "file-op.h"
@@ -220,7 +218,7 @@ bool MacService::WaitForExit(pid_t pid)
     for (int probe = 0; probe < kExitProbes; ++probe) {
         if (SendSignal(pid, 0) != 0 && errno == ESRCH)
             return true;
-        PauseSeconds(kProbeIntervalSeconds);
+        PauseSeconds(pid, kProbeIntervalSeconds);
     }
     return false;
 }
@@ -235,9 +233,9 @@ int MacService::SendSignal(pid_t pid, int signal_number)
     return kill(pid, signal_number);
 }
 
-void MacService::PauseSeconds(unsigned seconds)
+void MacService::PauseSeconds(pid_t pid, unsigned seconds)
 {
-    std::this_thread::sleep_for(std::chrono::seconds(seconds));
+    client_process::WaitForEnd(pid, seconds);
 }
 
 std::vector<pid_t> MacService::ProcessesOfUser()

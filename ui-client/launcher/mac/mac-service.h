@@ -35,7 +35,8 @@ protected:
     // ExecutableOf is empty with errno set (ENOENT: no such process) when it
     // cannot tell.
     virtual int SendSignal(pid_t pid, int signal_number);
-    virtual void PauseSeconds(unsigned seconds);
+    // Pauses for seconds, or less once process pid has ended.
+    virtual void PauseSeconds(pid_t pid, unsigned seconds);
     virtual std::vector<pid_t> ProcessesOfUser();
     virtual ustring ExecutableOf(pid_t pid);
 
