@@ -1,16 +1,15 @@
 #include "mac/mac-service.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <unistd.h>
-
-#include <QByteArray>
-#include <QSaveFile>
 
 #include <cerrno>
 #include <chrono>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 #include <thread>
 
 #include "config.h"
@@ -18,7 +17,6 @@
 #include "install-layout.h"
 #include "log.h"
 #include "mac/client-process.h"
-#include "qt-ustring.h"
 
 #define LOG_COMPONENT "service_debug"
 #define LOG_TAG "mac/mac-service"
@@ -29,6 +27,7 @@ const int kDefaultTimeout = 10000;
 const char kPidKey[] = "pid";
 const int kExitProbes = 5;
 const unsigned kProbeIntervalSeconds = 1;
+const mode_t kRecordMode = 0666;
 
 enum PidFileState { PID_FILE_MISSING, PID_FILE_UNREADABLE, PID_FILE_READ };
 
@@ -53,6 +52,24 @@ PidFileState ReadPidFile(const ustring& path, pid_t& pid)
         return PID_FILE_UNREADABLE;
     pid = ClientPid(config.entries[kPidKey]);
     return PID_FILE_READ;
+}
+
+// Written over in place rather than replaced by a renamed copy: replacing it
+// frees a block, which a file system that discards freed blocks at once makes
+// dearer than the rest of an everyday start, and the copy's sync to disk
+// costs as much again. Readers hold the installation lock as the writer does;
+// a launcher killed halfway leaves the old line, the new one or a text that
+// fails to parse, and a pid counts only while it runs the client. O_NONBLOCK:
+// a FIFO in the record's place fails instead of blocking.
+bool OverwriteFile(const ustring& path, const std::string& text)
+{
+    const int fd =
+        open(path.c_str_utf8(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, kRecordMode);
+    if (fd < 0)
+        return false;
+    const bool written = pwrite(fd, text.data(), text.size(), 0) == static_cast<ssize_t>(text.size()) &&
+                         ftruncate(fd, static_cast<off_t>(text.size())) == 0;
+    return close(fd) == 0 && written;
 }
 
 }  // namespace
@@ -242,9 +259,7 @@ void MacService::RecordLaunch(pid_t pid)
     if (pid <= 0)
         return;
     const ustring path = PerUserFile(layout::kLaunchRecord);
-    const QByteArray line = "pid=" + QByteArray::number(pid) + "\n";
-    QSaveFile record(ToQString(path));
-    if (!record.open(QIODevice::WriteOnly) || record.write(line) != line.size() || !record.commit())
+    if (!OverwriteFile(path, "pid=" + std::to_string(pid) + "\n"))
         LOG_MSG(WARNING, "cannot record the started client in '%s'", path.c_str_utf8());
 }
 
