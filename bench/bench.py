@@ -9,6 +9,7 @@ temporary HOME below the work folder, never the real home.
 Results go to <work folder>/results: one TSV per benchmark, results.md with
 the tables, upgrade.png and replace.png with the plots.
 """
+import itertools
 import os
 import re
 import shutil
@@ -26,7 +27,7 @@ OLD_CLIENT_SHAPE = (1, 40)     # the older installation an upgrade replaces
 # large client meet, and deleting such a tree.
 REPLACE_SHAPES = ((250, 10000), (250, 100000))
 UPGRADE_PAIRS = 5
-REPLACE_PAIRS = 5
+REPLACE_PAIRS = 4
 REMOVE_PAIRS = 5
 LAUNCH_PAIRS = 21
 MEMORY_RUNS = 2
@@ -42,10 +43,14 @@ MIB = 1 << 20
 STAMP_VARIABLE = "DROVIA_BENCH_STAMP"
 STAMP_TIMEOUT_SECONDS = 10
 STAMP_POLL_SECONDS = 0.01
-# Creating files right after mass deletions is slow on some file systems
-# (ext4 without a journal skips inodes freed in the last seconds), so every
-# timed run starts this long after the last clean-up.
+# Every timed run starts once everything is written back and the disk has had
+# a moment. ext4 without a journal (the test machine's) also passes over inodes
+# freed in the last minute, or the last six while their table block waits to
+# be written, so creating a tree soon after deleting one as large takes several
+# times as long: a replacement run, which deletes the old tree, makes the next
+# run wait AFTER_DELETION_SECONDS.
 SETTLE_SECONDS = 6
+AFTER_DELETION_SECONDS = 360
 HERE = os.path.dirname(os.path.abspath(__file__))
 MAKE_TREE = os.path.join(HERE, "make-client-tree.py")
 MAKE_PACKAGE = os.path.join(HERE, "..", "scripts", "make-package.sh")
@@ -297,12 +302,18 @@ def replace_row(paths, shape):
     package = package_for(paths, shape, CHOSEN_FORMAT)
     box = Sandbox(paths, "replace", package)
 
-    def measured(prepare):
+    deleted_at = time.time()  # an earlier benchmark may just have deleted its trees
+
+    def measured(prepare, deletes):
         def run():
+            nonlocal deleted_at
             prepare()
             settle()
+            time.sleep(max(0.0, deleted_at + AFTER_DELETION_SECONDS - time.time()))
             result = box.run_stamped()
             box.check_upgraded(build)
+            if deletes:
+                deleted_at = time.time()
             return result
         return run
 
@@ -312,8 +323,16 @@ def replace_row(paths, shape):
             box.install(build)
         set_build(box.installed, OLD_BUILD)
 
-    upgrade, fresh = alternate(REPLACE_PAIRS, measured(older_installation),
-                               measured(lambda: remove_tree(box.home)))
+    moved_homes = itertools.count()
+
+    def empty_home():
+        # Moved aside until the end: a deletion here would slow the fresh
+        # install (AFTER_DELETION_SECONDS), which deletes nothing itself.
+        if os.path.isdir(box.home):
+            os.rename(box.home, os.path.join(box.root, "home-%d" % next(moved_homes)))
+
+    upgrade, fresh = alternate(REPLACE_PAIRS, measured(older_installation, True),
+                               measured(empty_home, False))
     box.remove()
     ratios = [a / b for a, b in zip(column(upgrade, 0), column(fresh, 0))]
     row = ((shape[1], unpacked_bytes(tree_for(paths, shape)), os.path.getsize(package))
