@@ -3,12 +3,13 @@
 what it needs and calls it. Every run uses a copy of the built bundle and a
 temporary HOME below the work folder, never the real home.
 
-    bench.py <build folder> <work folder> [upgrade|launch|memory|gui|all|report] ...
+    bench.py <build folder> <work folder> [upgrade|replace|remove|launch|memory|gui|all|report] ...
     bench.py <build folder> <work folder> upgrade:zip,tar.zst    (some formats again)
 
 Results go to <work folder>/results: one TSV per benchmark, results.md with
-the tables and upgrade.png with the plot.
+the tables, upgrade.png and replace.png with the plots.
 """
+import itertools
 import os
 import re
 import shutil
@@ -22,8 +23,12 @@ CHOSEN_FORMAT = "zip"          # what scripts/make-package.sh makes by default
 CLIENT_SHAPE = (250, 10000)    # unpacked MB, entries
 MEMORY_SHAPES = ((100, 4000), (1000, 40000))
 OLD_CLIENT_SHAPE = (1, 40)     # the older installation an upgrade replaces
+# Replacing an installation as large as the package, the upgrade users of a
+# large client meet, and deleting such a tree.
+REPLACE_SHAPES = ((250, 10000), (250, 100000))
 UPGRADE_PAIRS = 5
-FULL_OLD_PAIRS = 3
+REPLACE_PAIRS = 4
+REMOVE_PAIRS = 5
 LAUNCH_PAIRS = 21
 MEMORY_RUNS = 2
 GUI_RUNS = 3
@@ -34,10 +39,18 @@ MACOS = os.path.join("Contents", "MacOS")
 RESOURCES = os.path.join("Contents", "Resources")
 PACKAGE = os.path.join(RESOURCES, "package", "drovia.vpk")
 MIB = 1 << 20
-# Creating files right after mass deletions is slow on some file systems
-# (ext4 without a journal skips inodes freed in the last seconds), so every
-# timed run starts this long after the last clean-up.
+# The generated client writes the time it started into the file this names.
+STAMP_VARIABLE = "DROVIA_BENCH_STAMP"
+STAMP_TIMEOUT_SECONDS = 10
+STAMP_POLL_SECONDS = 0.01
+# Every timed run starts once everything is written back and the disk has had
+# a moment. ext4 without a journal (the test machine's) also passes over inodes
+# freed in the last minute, or the last six while their table block waits to
+# be written, so creating a tree soon after deleting one as large takes several
+# times as long: a replacement run, which deletes the old tree, makes the next
+# run wait AFTER_DELETION_SECONDS.
 SETTLE_SECONDS = 6
+AFTER_DELETION_SECONDS = 360
 HERE = os.path.dirname(os.path.abspath(__file__))
 MAKE_TREE = os.path.join(HERE, "make-client-tree.py")
 MAKE_PACKAGE = os.path.join(HERE, "..", "scripts", "make-package.sh")
@@ -54,6 +67,11 @@ class Paths:
 
 def run_checked(args, **kwargs):
     subprocess.run(args, check=True, **kwargs)
+
+
+def remove_tree(path):
+    """rm -rf: Python's rmtree takes minutes over 100,000 entries."""
+    run_checked(["rm", "-rf", path])
 
 
 def settle():
@@ -112,6 +130,20 @@ def timed(args, env=None):
     return elapsed, usage.ru_utime + usage.ru_stime, usage.ru_maxrss
 
 
+def read_stamp(path):
+    """The time the client wrote; it runs on after the launcher has ended."""
+    deadline = time.time() + STAMP_TIMEOUT_SECONDS
+    while time.time() < deadline:
+        if os.path.exists(path):
+            with open(path) as stamp:
+                text = stamp.read()
+            if text.endswith("\n"):
+                return float(text)
+        time.sleep(STAMP_POLL_SECONDS)
+    raise RuntimeError("no client stamped %s (trees generated before the client stamped its start "
+                       "must be deleted from the work folder)" % path)
+
+
 class Sandbox:
     """A copy of the built bundle carrying a given package, and a HOME."""
 
@@ -139,7 +171,7 @@ class Sandbox:
     def install(self, build, tree=None):
         """An installation under the given build: a copy of tree, or the
         package's own content."""
-        shutil.rmtree(self.home, ignore_errors=True)
+        remove_tree(self.home)
         if tree:
             shutil.copytree(tree, self.installed, symlinks=True)
         else:
@@ -174,8 +206,22 @@ class Sandbox:
         settle()
         return timed(["bsdtar", "-xf", self.package, "-C", target])
 
+    def run_stamped(self):
+        """Seconds until the client started and until the launcher ended, and
+        the launcher's peak resident KiB."""
+        stamp = os.path.join(self.root, "client-started")
+        if os.path.exists(stamp):
+            os.remove(stamp)
+        launched_at = time.time()
+        wall, _, peak = timed([self.program("launcher")], dict(self.env, **{STAMP_VARIABLE: stamp}))
+        return read_stamp(stamp) - launched_at, wall, peak
+
     def remove(self):
-        shutil.rmtree(self.root, ignore_errors=True)
+        remove_tree(self.root)
+
+
+def column(runs, index):
+    return [run[index] for run in runs]
 
 
 def summary(values):
@@ -204,9 +250,9 @@ UPGRADE_HEADER = ("format", "unpacked", "package", "launcher_med", "launcher_min
                   "launcher_cpu_med", "bsdtar_cpu_med")
 
 
-def upgrade_row(paths, fmt, old_tree, label, pairs=UPGRADE_PAIRS):
-    """Times the launcher's upgrade over old_tree (None: an installation as
-    large as the package) against bsdtar unpacking the same package."""
+def upgrade_row(paths, fmt, old_tree):
+    """Times the launcher's upgrade over old_tree against bsdtar unpacking
+    the same package."""
     build = bundle_build(paths)
     package = package_for(paths, CLIENT_SHAPE, fmt)
     box = Sandbox(paths, "upgrade", package)
@@ -217,12 +263,12 @@ def upgrade_row(paths, fmt, old_tree, label, pairs=UPGRADE_PAIRS):
         box.check_upgraded(build)
         return measured
 
-    launcher, bsdtar = alternate(pairs, launcher_run, box.run_bsdtar)
+    launcher, bsdtar = alternate(UPGRADE_PAIRS, launcher_run, box.run_bsdtar)
     wall = ([run[0] for run in launcher], [run[0] for run in bsdtar])
     cpu = ([run[1] for run in launcher], [run[1] for run in bsdtar])
     ratios = [a / b for a, b in zip(*wall)]
     box.remove()
-    row = ((label, unpacked_bytes(tree_for(paths, CLIENT_SHAPE)), os.path.getsize(package))
+    row = ((fmt, unpacked_bytes(tree_for(paths, CLIENT_SHAPE)), os.path.getsize(package))
            + summary(wall[0]) + summary(wall[1]) + summary(ratios)
            + (statistics.median(cpu[0]), statistics.median(cpu[1])))
     print("upgrade", row, flush=True)
@@ -234,17 +280,97 @@ def bench_upgrade(paths, formats=FORMATS):
     stay in the table."""
     old_tree = tree_for(paths, OLD_CLIENT_SHAPE)
     kept = {row["format"]: row for row in read_tsv(paths, "upgrade.tsv")}
-    measured = {fmt: upgrade_row(paths, fmt, old_tree, fmt) for fmt in formats}
+    measured = {fmt: upgrade_row(paths, fmt, old_tree) for fmt in formats}
     rows = [measured[fmt] if fmt in measured else [kept[fmt][key] for key in UPGRADE_HEADER]
             for fmt in FORMATS if fmt in measured or fmt in kept]
     write_tsv(paths, "upgrade.tsv", UPGRADE_HEADER, rows)
     plot_upgrade(paths)
-    if tuple(formats) != FORMATS:
-        return
-    # Replacing a full-size installation also deletes it, which bsdtar never does.
-    write_tsv(paths, "upgrade-full-old.tsv", UPGRADE_HEADER,
-              [upgrade_row(paths, CHOSEN_FORMAT, None, CHOSEN_FORMAT + " over a full-size installation",
-                           FULL_OLD_PAIRS)])
+
+
+REPLACE_HEADER = ("entries", "unpacked", "package", "fresh_start_med", "fresh_start_min",
+                  "fresh_start_max", "start_med", "start_min", "start_max", "ratio_med", "ratio_min",
+                  "ratio_max", "exit_med", "exit_min", "exit_max", "fresh_peak_kib_med",
+                  "peak_kib_med")
+
+
+def replace_row(paths, shape):
+    """The launcher over an older installation as large as the package,
+    against a fresh install of the same package: the times until the new
+    client starts, their per-pair ratio, the upgrade's time until the
+    launcher ends and both peaks."""
+    build = bundle_build(paths)
+    package = package_for(paths, shape, CHOSEN_FORMAT)
+    box = Sandbox(paths, "replace", package)
+
+    deleted_at = time.time()  # an earlier benchmark may just have deleted its trees
+
+    def measured(prepare, deletes):
+        def run():
+            nonlocal deleted_at
+            prepare()
+            settle()
+            time.sleep(max(0.0, deleted_at + AFTER_DELETION_SECONDS - time.time()))
+            result = box.run_stamped()
+            box.check_upgraded(build)
+            if deletes:
+                deleted_at = time.time()
+            return result
+        return run
+
+    def older_installation():
+        # Every run leaves the package installed; it stands for the older build.
+        if not os.path.isdir(box.installed):
+            box.install(build)
+        set_build(box.installed, OLD_BUILD)
+
+    moved_homes = itertools.count()
+
+    def empty_home():
+        # Moved aside until the end: a deletion here would slow the fresh
+        # install (AFTER_DELETION_SECONDS), which deletes nothing itself.
+        if os.path.isdir(box.home):
+            os.rename(box.home, os.path.join(box.root, "home-%d" % next(moved_homes)))
+
+    upgrade, fresh = alternate(REPLACE_PAIRS, measured(older_installation, True),
+                               measured(empty_home, False))
+    box.remove()
+    ratios = [a / b for a, b in zip(column(upgrade, 0), column(fresh, 0))]
+    row = ((shape[1], unpacked_bytes(tree_for(paths, shape)), os.path.getsize(package))
+           + summary(column(fresh, 0)) + summary(column(upgrade, 0)) + summary(ratios)
+           + summary(column(upgrade, 1))
+           + (statistics.median(column(fresh, 2)), statistics.median(column(upgrade, 2))))
+    print("replace", row, flush=True)
+    return row
+
+
+def bench_replace(paths):
+    write_tsv(paths, "replace.tsv", REPLACE_HEADER, [replace_row(paths, shape) for shape in REPLACE_SHAPES])
+    plot_replace(paths)
+
+
+def bench_remove(paths):
+    """The file layer's recursive delete against rm -rf, each on a fresh copy
+    of the same tree."""
+    target = os.path.join(paths.work, "run", "remove")
+    helper = os.path.join(paths.helpers, "remove-tree")
+    rows = []
+    for shape in REPLACE_SHAPES:
+        def measured(program):
+            def run():
+                remove_tree(target)
+                run_checked(["cp", "-a", tree_for(paths, shape), target])
+                settle()
+                return timed(program + [target])
+            return run
+
+        layer, plain = alternate(REMOVE_PAIRS, measured([helper]), measured(["rm", "-rf"]))
+        ratios = [a / b for a, b in zip(column(layer, 0), column(plain, 0))]
+        rows.append((shape[1],) + summary(column(layer, 0)) + summary(column(plain, 0)) + summary(ratios)
+                    + (statistics.median(column(layer, 1)), statistics.median(column(plain, 1))))
+        print("remove", rows[-1], flush=True)
+    write_tsv(paths, "remove.tsv",
+              ("entries", "layer_med", "layer_min", "layer_max", "rm_med", "rm_min", "rm_max",
+               "ratio_med", "ratio_min", "ratio_max", "layer_cpu_med", "rm_cpu_med"), rows)
 
 
 def bench_launch(paths):
@@ -307,21 +433,37 @@ def bench_gui(paths):
     write_tsv(paths, "gui.tsv", ("ticks", "p50_ms", "p99_ms", "max_ms"), rows)
 
 
-def plot_upgrade(paths):
-    data = os.path.join(paths.results, "upgrade.tsv")
+def plot_bars(paths, name, title, columns):
+    """<name>.png: clustered bars of the columns of <name>.tsv."""
     script = """
 set terminal pngcairo size 800,480
 set output '{out}'
-set title 'Upgrade of a 10,000-entry, 250 MB client (median of {pairs} runs)'
+set title '{title}'
 set ylabel 'seconds'
 set yrange [0:*]
 set style data histograms
 set style histogram clustered gap 1
 set style fill solid 0.8 border -1
 set key outside bottom center horizontal
-plot '{data}' skip 1 using 4:xtic(1) title 'launcher (whole run)', '' skip 1 using 7 title 'bsdtar -xf'
-""".format(out=os.path.join(paths.results, "upgrade.png"), data=data, pairs=UPGRADE_PAIRS)
+plot {columns}
+""".format(out=os.path.join(paths.results, name + ".png"), title=title,
+           columns=columns.format(data=os.path.join(paths.results, name + ".tsv")))
     run_checked(["gnuplot"], input=script, text=True)
+
+
+def plot_upgrade(paths):
+    plot_bars(paths, "upgrade",
+              "Upgrade of a 10,000-entry, 250 MB client (median of %d runs)" % UPGRADE_PAIRS,
+              "'{data}' skip 1 using 4:xtic(1) title 'launcher (whole run)', "
+              "'' skip 1 using 7 title 'bsdtar -xf'")
+
+
+def plot_replace(paths):
+    plot_bars(paths, "replace",
+              "Replacing an installation as large as the package (median of %d pairs)" % REPLACE_PAIRS,
+              "'{data}' skip 1 using 4:xtic(sprintf('%d entries', $1)) title 'fresh install: client starts', "
+              "'' skip 1 using 7 title 'upgrade: client starts', "
+              "'' skip 1 using 13 title 'upgrade: launcher ends'")
 
 
 def read_tsv(paths, name):
@@ -339,10 +481,14 @@ def spread(row, key, scale=1.0, digits=2):
     return "%.*f (%.*f-%.*f)" % (digits, values[0], digits, values[1], digits, values[2])
 
 
+def thousands(count):
+    return "{:,}".format(int(count))
+
+
 def write_markdown(paths):
     """Tables of every result present, for docs/performance.md."""
     lines = []
-    upgrade = read_tsv(paths, "upgrade.tsv") + read_tsv(paths, "upgrade-full-old.tsv")
+    upgrade = read_tsv(paths, "upgrade.tsv")
     if upgrade:
         lines += ["| package | unpacked MB | package MB | launcher s | bsdtar s | ratio | CPU s launcher / bsdtar |",
                   "|---|---|---|---|---|---|---|"]
@@ -351,6 +497,25 @@ def write_markdown(paths):
                 row["format"], int(row["unpacked"]) / 1e6, int(row["package"]) / 1e6,
                 spread(row, "launcher"), spread(row, "bsdtar"), spread(row, "ratio"),
                 float(row["launcher_cpu_med"]), float(row["bsdtar_cpu_med"])))
+        lines.append("")
+    replace = read_tsv(paths, "replace.tsv")
+    if replace:
+        lines += ["| entries | unpacked MB | package MB | fresh install: client starts s "
+                  "| upgrade: client starts s | ratio | upgrade: launcher ends s "
+                  "| peak RSS MiB fresh / upgrade |", "|---|---|---|---|---|---|---|---|"]
+        for row in replace:
+            lines.append("| %s | %.0f | %.0f | %s | %s | %s | %s | %.1f / %.1f |" % (
+                thousands(row["entries"]), int(row["unpacked"]) / 1e6, int(row["package"]) / 1e6, spread(row, "fresh_start"),
+                spread(row, "start"), spread(row, "ratio"), spread(row, "exit"),
+                float(row["fresh_peak_kib_med"]) / 1024, float(row["peak_kib_med"]) / 1024))
+        lines.append("")
+    remove = read_tsv(paths, "remove.tsv")
+    if remove:
+        lines += ["| entries | FSRemove s | rm -rf s | ratio | CPU s FSRemove / rm |", "|---|---|---|---|---|"]
+        for row in remove:
+            lines.append("| %s | %s | %s | %s | %.2f / %.2f |" % (
+                thousands(row["entries"]), spread(row, "layer"), spread(row, "rm"), spread(row, "ratio"),
+                float(row["layer_cpu_med"]), float(row["rm_cpu_med"])))
         lines.append("")
     for row in read_tsv(paths, "launch.tsv"):
         lines += ["| launcher ms | bare program ms | ratio | CPU ms launcher / bare |", "|---|---|---|---|",
@@ -377,8 +542,8 @@ def write_markdown(paths):
         out.write("\n".join(lines))
 
 
-BENCHMARKS = {"upgrade": bench_upgrade, "launch": bench_launch, "memory": bench_memory,
-              "gui": bench_gui}
+BENCHMARKS = {"upgrade": bench_upgrade, "replace": bench_replace, "remove": bench_remove,
+              "launch": bench_launch, "memory": bench_memory, "gui": bench_gui}
 
 
 def main():

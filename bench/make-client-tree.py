@@ -7,7 +7,8 @@ every run for the same arguments:
 Most of the bytes sit in a few large incompressible binaries, most of the
 entries are small compressible text and resource files; images, folders and
 a few symbolic links make up the rest. Contents/MacOS/cloud-ui is a shell
-script that exits at once, so a benchmark run leaves nothing running.
+script that exits at once, so a benchmark run leaves nothing running; when
+DROVIA_BENCH_STAMP names a file, it first writes the time it started there.
 """
 import os
 import random
@@ -26,7 +27,9 @@ WORDS = ("sync folder share file cloud upload download conflict version account 
          "settings network proxy quota device client server token session retry "
          "error warning notice progress pending complete paused resume").split()
 CORPUS_WORDS = 1 << 18
-CLIENT_SCRIPT = b"#!/bin/sh\nexit 0\n"
+CLIENT_SCRIPT = (b"#!/bin/sh\n"
+                 b"[ -z \"$DROVIA_BENCH_STAMP\" ] || date +%s.%N > \"$DROVIA_BENCH_STAMP\"\n"
+                 b"exit 0\n")
 INFO_TEMPLATE = ("[Version]\nmajor_version=3\nminor_version=2\n"
                  "build_version={build}\nicon_overlay_version=0\n")
 

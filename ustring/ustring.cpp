@@ -27,6 +27,8 @@ const int kToUtf8WarningLine = 888;
 const int kGetNormalizerWarningLine = 1014;
 const int kNormalizeWarningLine = 1026;
 
+const unsigned char kFirstNonAsciiByte = 0x80;
+
 const char kSubstrError[] = "substr";
 const char kStdSubstrError[] = "basic_string::substr";
 
@@ -121,6 +123,16 @@ int32_t IcuCapacity(unsigned long capacity)
 unsigned long IcuLength(int32_t length)
 {
     return static_cast<unsigned long>(std::max<int32_t>(length, 0));
+}
+
+// Up to the first 0 byte, where ICU's view of the text ends too.
+bool IsAscii(const char* text)
+{
+    for (; *text != '\0'; ++text) {
+        if (static_cast<unsigned char>(*text) >= kFirstNonAsciiByte)
+            return false;
+    }
+    return true;
 }
 
 void Warn(const char* function, UErrorCode code, int line)
@@ -799,6 +811,10 @@ ustring ustring::normalize(const ustring& src, normalization_form form)
     ustring result;
     if (src.empty())
         return result;
+    // Every form leaves ASCII as it is: paths of the everyday start never
+    // need ICU's normalisation data loaded.
+    if (IsAscii(src.c_str()))
+        return ustring(src.c_str());
 
     UErrorCode status = U_ZERO_ERROR;
     const UNormalizer2* normalizer = unorm2_getInstance(nullptr, "nfc", kModeOfForm[form], &status);

@@ -73,9 +73,19 @@ ustring ChildPath(const ustring& dir, const ustring& name)
     return dir + "/" + name;
 }
 
-bool IsDotEntry(const ustring& name)
+bool IsDotEntry(const char* name)
 {
-    return name == "." || name == "..";
+    return strcmp(name, ".") == 0 || strcmp(name, "..") == 0;
+}
+
+void LogOpenDirFailure(const char* path, int error)
+{
+    LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s", path, strerror(error));
+}
+
+void LogReadDirFailure(const char* path, int error)
+{
+    LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s", path, strerror(error));
 }
 
 // Logs why the platform could not resolve a path, naming the step that failed.
@@ -236,7 +246,7 @@ WalkOutcome ForEachChild(const ustring& dir, const std::function<int(const ustri
     WalkOutcome outcome = WalkOutcome::Finished;
     DIR_ENTRY entry;
     while (FSReadDir(handle, entry) == FS_DIR_ENTRY) {
-        if (IsDotEntry(entry.name))
+        if (IsDotEntry(entry.name.c_str()))
             continue;
         if (visit(entry.name) != FS_OK) {
             outcome = WalkOutcome::Stopped;
@@ -257,6 +267,70 @@ int MoveFolderAcrossDevices(const ustring& src, const ustring& dst, bool exact)
     if (outcome != WalkOutcome::Finished)
         return FS_STEP_FAILED;
     return RemoveEntry(src);
+}
+
+// FSRemove's walk reaches every entry by name from its open folder and takes
+// its type from readdir where the file system gives one: no lookup of the
+// whole path and no stat per entry, which is what a large tree's deletion
+// spent its time on. The path is kept for the log only.
+const int kWalkedFolderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+int RemoveFolderAt(int parent_fd, const char* name, std::string& path);
+
+// As FSRemove of the entry's path would: a vanished entry is done, one that
+// cannot be examined is an error.
+int RemoveChildAt(int dir_fd, const struct dirent& entry, std::string& path)
+{
+    int32_t type = TypeFromDirentType(entry.d_type);
+    if (type == FILE_TYPE_UNKNOWN) {
+        struct stat st;
+        if (fstatat(dir_fd, entry.d_name, &st, AT_SYMLINK_NOFOLLOW) != 0)
+            return errno == ENOENT ? FS_OK : FS_ERROR;
+        type = TypeFromMode(st.st_mode);
+    }
+    if (type != FILE_TYPE_DIRECTORY)
+        return unlinkat(dir_fd, entry.d_name, 0) == 0 ? FS_OK : FS_STEP_FAILED;
+    const size_t parent_length = path.size();
+    path.append("/").append(entry.d_name);
+    const int status = RemoveFolderAt(dir_fd, entry.d_name, path);
+    path.resize(parent_length);
+    return status;
+}
+
+// False once an entry refuses to go. A read error ends the walk as if the
+// folder were exhausted; removing the folder then fails.
+bool RemoveChildren(DIR* dir, std::string& path)
+{
+    const int dir_fd = dirfd(dir);
+    for (;;) {
+        errno = 0;
+        const struct dirent* entry = readdir(dir);
+        if (entry == nullptr) {
+            if (errno != 0)
+                LogReadDirFailure(path.c_str(), errno);
+            return true;
+        }
+        if (!IsDotEntry(entry->d_name) && RemoveChildAt(dir_fd, *entry, path) != FS_OK)
+            return false;
+    }
+}
+
+// A folder that cannot be opened stays and counts as removed.
+int RemoveFolderAt(int parent_fd, const char* name, std::string& path)
+{
+    const int fd = openat(parent_fd, name, kWalkedFolderFlags);
+    DIR* dir = fd < 0 ? nullptr : fdopendir(fd);
+    if (dir == nullptr) {
+        LogOpenDirFailure(path.c_str(), errno);
+        if (fd >= 0)
+            close(fd);
+        return FS_OK;
+    }
+    const bool emptied = RemoveChildren(dir, path);
+    closedir(dir);
+    if (!emptied)
+        return FS_STEP_FAILED;
+    return unlinkat(parent_fd, name, AT_REMOVEDIR) == 0 ? FS_OK : FS_STEP_FAILED;
 }
 
 // Gives a folder made by FSMKDirP to the configured owner; nothing to do
@@ -493,21 +567,14 @@ int FSRemove(const ustring& path, bool)
 {
     if (path.empty())
         return FS_ERROR;
-    _FILE_INFO_tag info;
-    if (GetFileInfo(path, info) != FS_OK)
-        return FS_ERROR;
-    if (!info.exists)
-        return FS_OK;
+    struct stat st;
+    if (lstat(path.c_str(), &st) != 0)
+        return errno == ENOENT ? FS_OK : FS_ERROR;
     // lstat typed a link as a link, so it is removed itself, never followed.
-    if (info.type != FILE_TYPE_DIRECTORY)
+    if (!S_ISDIR(st.st_mode))
         return RemoveEntry(path);
-    const WalkOutcome outcome =
-        ForEachChild(path, [&](const ustring& name) { return FSRemove(ChildPath(path, name), false); });
-    if (outcome == WalkOutcome::NotOpened)
-        return FS_OK;
-    if (outcome == WalkOutcome::Stopped)
-        return FS_STEP_FAILED;
-    return RemoveEntry(path);
+    std::string walked = path.c_str();
+    return RemoveFolderAt(AT_FDCWD, path.c_str(), walked);
 }
 
 int FSExchange(const ustring& path, const ustring& other)
@@ -568,7 +635,7 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle)
 {
     DIR* dir = opendir(path.c_str());
     if (dir == nullptr) {
-        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s", path.c_str(), strerror(errno));
+        LogOpenDirFailure(path.c_str(), errno);
         return FS_ERROR;
     }
     handle.dir = dir;
@@ -585,7 +652,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry)
     if (next == nullptr) {
         if (errno == 0)
             return FS_DIR_END;
-        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s", handle.path.c_str(), strerror(errno));
+        LogReadDirFailure(handle.path.c_str(), errno);
         return FS_ERROR;
     }
     // An entry that vanishes before it is examined keeps time and size 0.

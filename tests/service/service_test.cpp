@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <cerrno>
@@ -273,6 +274,20 @@ TEST_F(ServiceTest, OddFilesWhereVersionAndPidFilesBelongAreNeverRead)
     service.StopService();
     EXPECT_TRUE(service.sent.empty());
     EXPECT_NE(log.Text().find("Failed to read pid file"), std::string::npos) << log.Text();
+}
+
+// The record is written over in place: a longer one from an earlier run
+// leaves nothing behind.
+TEST_F(ServiceTest, LaunchRecordNamesTheStartedClientAlone)
+{
+    const QString record = user_folder + "/" + layout::kLaunchRecord;
+    const QString client = user_app + "/" + layout::kClientExecutable;
+    ASSERT_TRUE(WriteBytes(record, "pid=2147483647 # an earlier run's\n") &&
+                WriteBytes(client, "#!/bin/sh\n") &&
+                QFile::setPermissions(client, QFile::ReadOwner | QFile::ExeOwner));
+    ASSERT_EQ(MacService().LaunchPerUserBin(), 0);
+    const QRegularExpression whole_line(QRegularExpression::anchoredPattern("pid=[1-9][0-9]*\n"));
+    EXPECT_TRUE(whole_line.match(QString::fromStdString(ReadBytes(record))).hasMatch());
 }
 
 }  // namespace

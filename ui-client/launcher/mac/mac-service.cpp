@@ -1,10 +1,8 @@
 #include "mac/mac-service.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <unistd.h>
-
-#include <QByteArray>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -18,7 +16,6 @@
 #include "install-layout.h"
 #include "log.h"
 #include "mac/client-process.h"
-#include "qt-ustring.h"
 
 #define LOG_COMPONENT "service_debug"
 #define LOG_TAG "mac/mac-service"
@@ -29,6 +26,7 @@ const int kDefaultTimeout = 10000;
 const char kPidKey[] = "pid";
 const int kExitProbes = 5;
 const unsigned kProbeIntervalSeconds = 1;
+const mode_t kRecordMode = 0666;
 
 // Bundles beside the installed one, whose client may still run: moved aside
 // by an upgrade (Drovia.app_tmp) or being unpacked (Drovia.app_new).
@@ -79,6 +77,24 @@ ustring ResolvedInstallation()
     ustring installation = Service::GetUserDroviaInstallPath();
     FSGetRealPath(installation);
     return installation;
+}
+
+// Written over in place rather than replaced by a renamed copy: replacing it
+// frees a block, which a file system that discards freed blocks at once makes
+// dearer than the rest of an everyday start, and the copy's sync to disk
+// costs as much again. Readers hold the installation lock as the writer does;
+// a launcher killed halfway leaves the old line, the new one or a text that
+// fails to parse, and a pid counts only while it runs the client. O_NONBLOCK:
+// a FIFO in the record's place fails instead of blocking.
+bool OverwriteFile(const ustring& path, const std::string& text)
+{
+    const int fd =
+        open(path.c_str_utf8(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, kRecordMode);
+    if (fd < 0)
+        return false;
+    const bool written = pwrite(fd, text.data(), text.size(), 0) == static_cast<ssize_t>(text.size()) &&
+                         ftruncate(fd, static_cast<off_t>(text.size())) == 0;
+    return close(fd) == 0 && written;
 }
 
 }  // namespace
@@ -304,9 +320,7 @@ void MacService::RecordLaunch(pid_t pid)
     if (pid <= 0)
         return;
     const ustring path = PerUserFile(layout::kLaunchRecord);
-    const QByteArray line = "pid=" + QByteArray::number(pid) + "\n";
-    QSaveFile record(ToQString(path));
-    if (!record.open(QIODevice::WriteOnly) || record.write(line) != line.size() || !record.commit())
+    if (!OverwriteFile(path, "pid=" + std::to_string(pid) + "\n"))
         LOG_MSG(WARNING, "cannot record the started client in '%s'", path.c_str_utf8());
 }
 
