@@ -27,11 +27,10 @@ string(APPEND drovia_texts_qrc "</qresource>\n</RCC>\n")
 file(CONFIGURE OUTPUT "${drovia_catalogue_dir}/texts.qrc"
      CONTENT "${drovia_texts_qrc}" @ONLY)
 
-# Stored uncompressed: the translator then reads its catalogue where the
-# executable is mapped, instead of inflating a copy at every start. Format
-# version 1 keeps the data readable by every Qt 5 runtime.
+# zlib is named explicitly because rcc would otherwise pick zstd where it is
+# available; format version 1 keeps the data readable by every Qt 5 runtime.
 qt5_add_resources(drovia_texts_sources "${drovia_catalogue_dir}/texts.qrc"
-    OPTIONS --no-compress --format-version 1)
+    OPTIONS --compress-algo zlib --format-version 1)
 target_sources(launcher_core PRIVATE ${drovia_texts_sources})
 
 # The tests compare what the resources hand out with the compiled files.
