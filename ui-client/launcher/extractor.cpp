@@ -95,19 +95,30 @@ int CountEntries(const ustring& archive_path, const ustring& dest_path, int64_t*
     return entries;
 }
 
-// How many bytes dest_path's file system lacks for entries that hold
-// data_bytes, each of which may take a block more than its data; 0 when they
-// fit, or when the free space cannot be told and the writes must show it.
-int64_t BytesMissing(const ustring& dest_path, int64_t data_bytes, int entries)
+// Whether entries that hold data_bytes fit on dest_path's file system, each
+// taking up to a block more than its data and a file of its own, with room
+// left for the user's other programs; logs what is missing. True when the
+// free space cannot be told: the writes then show it.
+bool FitsOnDisk(const ustring& dest_path, int64_t data_bytes, int entries)
 {
     struct statvfs file_system;
     if (statvfs(dest_path.c_str_utf8(), &file_system) != 0)
-        return 0;
+        return true;
     const int64_t block = static_cast<int64_t>(file_system.f_frsize);
     const int64_t size = block * static_cast<int64_t>(file_system.f_blocks);
     const int64_t spare = std::min(size * kSparePercent / 100, kMaxSpareBytes);
-    const int64_t needed = data_bytes + block * entries + spare;
-    return std::max<int64_t>(needed - block * static_cast<int64_t>(file_system.f_bavail), 0);
+    const int64_t bytes_missing =
+        data_bytes + block * entries + spare - block * static_cast<int64_t>(file_system.f_bavail);
+    // File systems that make room for files as they come count none.
+    const int64_t files_missing =
+        file_system.f_files == 0 ? 0 : entries - static_cast<int64_t>(file_system.f_favail);
+    if (bytes_missing > 0)
+        LOG_MSG(ERROR, "not enough space to unpack into '%s': %lld bytes missing", dest_path.c_str_utf8(),
+                static_cast<long long>(bytes_missing));
+    if (files_missing > 0)
+        LOG_MSG(ERROR, "not enough space to unpack into '%s': room for %lld more files missing",
+                dest_path.c_str_utf8(), static_cast<long long>(files_missing));
+    return bytes_missing <= 0 && files_missing <= 0;
 }
 
 // Names and hard-link targets land below dest_path: they are only prefixed,
@@ -191,12 +202,8 @@ int Extractor::Extract()
         return -1;
     }
     // A package that cannot fit would fill the user's disk before failing.
-    const int64_t missing = BytesMissing(dest_path, data_bytes, total);
-    if (missing > 0) {
-        LOG_MSG(ERROR, "not enough space to unpack into '%s': %lld bytes missing", dest_path.c_str_utf8(),
-                static_cast<long long>(missing));
+    if (!FitsOnDisk(dest_path, data_bytes, total))
         return -1;
-    }
     const Utf8Names utf8_names;  // Count has its own
 
     ReadHandle reader(archive_read_new(), archive_read_free);
