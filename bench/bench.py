@@ -9,7 +9,6 @@ temporary HOME below the work folder, never the real home.
 Results go to <work folder>/results: one TSV per benchmark, results.md with
 the tables, upgrade.png and replace.png with the plots.
 """
-import itertools
 import os
 import re
 import shutil
@@ -44,13 +43,14 @@ STAMP_VARIABLE = "DROVIA_BENCH_STAMP"
 STAMP_TIMEOUT_SECONDS = 10
 STAMP_POLL_SECONDS = 0.01
 # Every timed run starts once everything is written back and the disk has had
-# a moment. ext4 without a journal (the test machine's) also passes over inodes
-# freed in the last minute, or the last six while their table block waits to
-# be written, so creating a tree soon after deleting one as large takes several
-# times as long: a replacement run, which deletes the old tree, makes the next
-# run wait AFTER_DELETION_SECONDS.
+# a moment.
 SETTLE_SECONDS = 6
-AFTER_DELETION_SECONDS = 360
+# Replacing and deleting trees run on a journaled ext4 file system made for
+# the benchmark, as users' home folders have: ext4 without a journal (this
+# machine's own) passes over inodes freed in the last minutes, so any run
+# that follows a large deletion there takes several times as long.
+FRESH_FS_BYTES = 8 << 30
+FRESH_FS_INODES = 1000000
 HERE = os.path.dirname(os.path.abspath(__file__))
 MAKE_TREE = os.path.join(HERE, "make-client-tree.py")
 MAKE_PACKAGE = os.path.join(HERE, "..", "scripts", "make-package.sh")
@@ -77,6 +77,27 @@ def remove_tree(path):
 def settle():
     run_checked(["sync"])
     time.sleep(SETTLE_SECONDS)
+
+
+class FreshFileSystem:
+    """A journaled ext4 file system in an image below the work folder,
+    loop-mounted over its run folder for as long as the block lasts (root)."""
+
+    def __init__(self, paths):
+        self.image = os.path.join(paths.work, "fresh-fs.img")
+        self.mount_point = os.path.join(paths.work, "run")
+
+    def __enter__(self):
+        os.makedirs(self.mount_point, exist_ok=True)
+        with open(self.image, "wb") as image:
+            image.truncate(FRESH_FS_BYTES)
+        run_checked(["mkfs.ext4", "-q", "-N", str(FRESH_FS_INODES), self.image])
+        run_checked(["mount", "-o", "loop", self.image, self.mount_point])
+        return self
+
+    def __exit__(self, *exception):
+        run_checked(["umount", "--lazy", self.mount_point])
+        os.remove(self.image)
 
 
 def bundle_build(paths):
@@ -153,7 +174,7 @@ class Sandbox:
         self.bundle = os.path.join(self.root, BUNDLE)
         shutil.copytree(paths.build_bundle, self.bundle, symlinks=True)
         os.remove(os.path.join(self.bundle, PACKAGE))
-        os.link(package, os.path.join(self.bundle, PACKAGE))
+        shutil.copyfile(package, os.path.join(self.bundle, PACKAGE))
         for helper in ("bare-dialog", "gui-gap"):
             shutil.copy2(os.path.join(paths.helpers, helper), os.path.join(self.bundle, MACOS))
         self.package = package
@@ -302,18 +323,12 @@ def replace_row(paths, shape):
     package = package_for(paths, shape, CHOSEN_FORMAT)
     box = Sandbox(paths, "replace", package)
 
-    deleted_at = time.time()  # an earlier benchmark may just have deleted its trees
-
-    def measured(prepare, deletes):
+    def measured(prepare):
         def run():
-            nonlocal deleted_at
             prepare()
             settle()
-            time.sleep(max(0.0, deleted_at + AFTER_DELETION_SECONDS - time.time()))
             result = box.run_stamped()
             box.check_upgraded(build)
-            if deletes:
-                deleted_at = time.time()
             return result
         return run
 
@@ -323,16 +338,10 @@ def replace_row(paths, shape):
             box.install(build)
         set_build(box.installed, OLD_BUILD)
 
-    moved_homes = itertools.count()
-
     def empty_home():
-        # Moved aside until the end: a deletion here would slow the fresh
-        # install (AFTER_DELETION_SECONDS), which deletes nothing itself.
-        if os.path.isdir(box.home):
-            os.rename(box.home, os.path.join(box.root, "home-%d" % next(moved_homes)))
+        remove_tree(box.home)
 
-    upgrade, fresh = alternate(REPLACE_PAIRS, measured(older_installation, True),
-                               measured(empty_home, False))
+    upgrade, fresh = alternate(REPLACE_PAIRS, measured(older_installation), measured(empty_home))
     box.remove()
     ratios = [a / b for a, b in zip(column(upgrade, 0), column(fresh, 0))]
     row = ((shape[1], unpacked_bytes(tree_for(paths, shape)), os.path.getsize(package))
@@ -344,7 +353,12 @@ def replace_row(paths, shape):
 
 
 def bench_replace(paths):
-    write_tsv(paths, "replace.tsv", REPLACE_HEADER, [replace_row(paths, shape) for shape in REPLACE_SHAPES])
+    rows = []
+    for shape in REPLACE_SHAPES:
+        package_for(paths, shape, CHOSEN_FORMAT)  # made before the file system is
+        with FreshFileSystem(paths):
+            rows.append(replace_row(paths, shape))
+    write_tsv(paths, "replace.tsv", REPLACE_HEADER, rows)
     plot_replace(paths)
 
 
@@ -363,7 +377,8 @@ def bench_remove(paths):
                 return timed(program + [target])
             return run
 
-        layer, plain = alternate(REMOVE_PAIRS, measured([helper]), measured(["rm", "-rf"]))
+        with FreshFileSystem(paths):
+            layer, plain = alternate(REMOVE_PAIRS, measured([helper]), measured(["rm", "-rf"]))
         ratios = [a / b for a, b in zip(column(layer, 0), column(plain, 0))]
         rows.append((shape[1],) + summary(column(layer, 0)) + summary(column(plain, 0)) + summary(ratios)
                     + (statistics.median(column(layer, 1)), statistics.median(column(plain, 1))))
