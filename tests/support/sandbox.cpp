@@ -2,7 +2,6 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -91,13 +90,10 @@ void LauncherSandbox::StartLauncher(QProcess& launcher, const QProcessEnvironmen
 
 LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env)
 {
-    QElapsedTimer timer;
-    timer.start();
     QProcess launcher;
     StartLauncher(launcher, env);
     LauncherRun run;
     const bool ended = launcher.waitForFinished(kTimeoutMs);
-    run.milliseconds = timer.elapsed();
     if (!ended)
         launcher.kill();
     launcher.waitForFinished();

@@ -13,7 +13,6 @@ struct LauncherRun {
     int exit_code = -1;  // -1 when it crashed or did not end in time
     QString out;
     QString err;
-    qint64 milliseconds = 0;
 };
 
 // A copy of the built Drovia.app and a scratch home, whose name has blanks
