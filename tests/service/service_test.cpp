@@ -104,7 +104,7 @@ TEST_F(ServiceTest, InstallationReplacesTheBundleWholeOrNotAtAll)
     const std::string good = MakeArchive(ClientBundle(5, files));
     files.push_back({"../refused", "out"});  // fails after the others, before the version file
     const std::string bad = MakeArchive(ClientBundle(5, files));
-    // What lies beside the bundle: backups by index, 'n' the staging folder.
+    // What lies beside the bundle, its marker naming it: backups by index, 'n' the staging folder.
     const auto beside = [this](char index) {
         return user_app + (index == 'n' ? "_new" : "_tmp" + (index == '0' ? "" : QString(index)));
     };
@@ -123,7 +123,7 @@ TEST_F(ServiceTest, InstallationReplacesTheBundleWholeOrNotAtAll)
         {"leftovers beside the bundle", true, "02n", good, 0, "new"},
         {"every backup name taken", true, "0123456789", good, 0, "new"},
         {"rolled back", true, "n", bad, -1, "old"},
-        {"backup put back, then rolled back", false, "0", bad, -1, "earlier"},
+        {"latest backup put back, then rolled back", false, "03", bad, -1, "earlier3"},
         {"nothing to roll back to", false, "", bad, -1, ""},
     };
     for (const auto& row : rows) {
@@ -133,7 +133,7 @@ TEST_F(ServiceTest, InstallationReplacesTheBundleWholeOrNotAtAll)
         if (row.old)
             InstallForUser(4);
         for (const char* index = row.left_before; *index != '\0'; ++index)
-            ASSERT_TRUE(WriteBytes(beside(*index) + "/marker", "earlier"));
+            ASSERT_TRUE(WriteBytes(beside(*index) + "/marker", std::string("earlier") + *index));
 
         MacService service;
         service.SettleUserEnv();
