@@ -36,19 +36,17 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
     EXPECT_EQ(StartedBuilds(), QStringList{"5"});
     // Its pid file written, the client holds only /dev/null: "launcher | cat" ends with the launcher.
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo::exists(UserPath(layout::kPidFile)); }));
-    const QString descriptors = "/proc/" + LastStartedPid() + "/fd/";
+    const QString descriptors = "/proc/" + StartLines().join('\n').section(' ', -1) + "/fd/";
     QStringList held;
     for (const QString& fd :
          QDir(descriptors).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot))
         held << fd + " " + QFile::symLinkTarget(descriptors + fd);
     EXPECT_EQ(held.join(", ").toStdString(), "0 /dev/null, 1 /dev/null, 2 /dev/null");
     const QStringList first_log = LogMessages();
-    EXPECT_FALSE(first_log.contains("launcher: no need to upgrade"));
     EXPECT_EQ(first_log.last(), "launcher: done");
 
     EXPECT_EQ(RunLauncher().exit_code, 0);
     const QStringList second_log = LogMessages().mid(first_log.size());
-    EXPECT_TRUE(second_log.contains("launcher: no need to upgrade"));
     EXPECT_EQ(second_log.filter("already runs as process").size(), 1) << second_log.join('\n').toStdString();
     EXPECT_EQ(StartedBuilds(), QStringList{"5"}) << "a second client started";
     EXPECT_EQ(RunningBuilds(), QStringList{"5"});

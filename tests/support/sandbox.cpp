@@ -36,11 +36,6 @@ QStringList LauncherSandbox::StartLines() const
     return QString::fromStdString(ReadBytes(UserPath("started"))).split('\n', Qt::SkipEmptyParts);
 }
 
-QString LauncherSandbox::LastStartedPid() const
-{
-    return StartLines().value(StartLines().size() - 1).section(' ', 1, 1);
-}
-
 QString LauncherSandbox::UserPath(const QString& relative) const
 {
     return home + "/" + layout::kUserFolder + "/" + relative;

@@ -41,8 +41,7 @@ public:  // to the rows of tables too
     QString InstanceLockName(uid_t uid) const;
 
     QStringList LogMessages() const;
-    QStringList StartLines() const;  // "<build> <pid>" for each client started
-    QString LastStartedPid() const;
+    QStringList StartLines() const;                  // "<build> <pid>" for each client started
     QStringList StartedBuilds(int count = 1) const;  // once at least count clients started
     QStringList RunningBuilds() const;
     QString InstalledBuild() const;
