@@ -77,7 +77,8 @@ TEST_F(LauncherRuns, WaitsWhileAnotherLauncherHoldsTheInstallation)
 
 // A 1 MiB file system of 32 files holds the old installation but neither the
 // new package's bytes nor its entries, and a file stands where the log folder
-// belongs; one that counts no files, as some do, takes the package that fits.
+// belongs; one of 8 MiB and 12 files refuses it before writing anything; one
+// that counts no files, as some do, takes a package that fits.
 TEST_F(LauncherRuns, FullDiskKeepsTheOldInstallationAndLogsToStandardError)
 {
     std::mt19937 random(7);
@@ -104,6 +105,9 @@ TEST_F(LauncherRuns, FullDiskKeepsTheOldInstallationAndLogsToStandardError)
     EXPECT_TRUE(messages.contains("launcher: Failed to upgrade package")) << run.err.toStdString();
     EXPECT_FALSE(messages.contains("launcher: running")) << "the level file is read only with a log file";
 
+    ASSERT_EQ(mount("drovia-few-files", UserPath("").toUtf8(), "tmpfs", 0, "size=8m,nr_inodes=12"), 0);
+    EXPECT_EQ(RunLauncher().exit_code, 0);
+    EXPECT_EQ(LogMessages().filter("extractor:").size(), 1) << LogMessages().join('\n').toStdString();
     Ship(5);
     ASSERT_EQ(mount("drovia-uncounted", UserPath("").toUtf8(), "tmpfs", 0, "size=1m,nr_inodes=0"), 0);
     EXPECT_EQ(RunLauncher().exit_code, 0);
