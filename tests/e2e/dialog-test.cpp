@@ -60,8 +60,7 @@ TEST_F(DialogUnderX, ShowsInTheUsersLanguageWhileTheOldClientStops)
         pixels[run] = ReadBytes(capture);
         EXPECT_EQ(RunLauncher(env).exit_code, 0) << "a second launcher";
 
-        EXPECT_TRUE(launcher.waitForFinished(30000));
-        EXPECT_EQ(launcher.exitCode(), 0);
+        EXPECT_TRUE(launcher.waitForFinished(30000) && launcher.exitCode() == 0);
         EXPECT_EQ(InstalledBuild(), "5");
         EXPECT_EQ(RunningBuilds(), QStringList{"5"});
         EXPECT_EQ(LogMessages().count("main: app has already launched, return"), 1);

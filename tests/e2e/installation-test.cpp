@@ -131,9 +131,11 @@ TEST_P(StoppedUpgrade, EndsWithTheOldOrTheNewInstallationOnTheNextRun)
         upgrade.can_exchange ? QStringList() : QStringList{"-e", "inject=renameat2:error=EINVAL"};
     Ship(5, MakeArchive(package));
     InstallOldBuild("recorded");
+    const std::vector<Call> calls = Spread(RecordCalls(strace_options));
+    ExpectInstalled(upgrade.fails ? old_build : package, upgrade.fails ? "4" : "5", "unstopped");
     const char* stop_signals[] = {"KILL", "TERM", "KILL", "HUP"};
     int point = 0;
-    for (const Call& call : Spread(RecordCalls(strace_options))) {
+    for (const Call& call : calls) {
         const char* stop_signal = stop_signals[point++ % 4];
         const QString context = QString("SIG%1 at %2 #%3").arg(stop_signal, call.first).arg(call.second);
         InstallOldBuild(context);

@@ -107,6 +107,8 @@ TEST(Extractor, WritesNothingOutsideTheDestination)
          {{"c", "d"}, {"c/d", "d"}, {"c/d/l", "l:../.."}}},
         {"later link redirects one", {{"d/e", "", EntryKind::Folder}, link("x", "d/e/../.."), link("d/e", ".")},
          -1, {{"d", "d"}, {"d/e", "d"}, {"x", "l:d/e/../.."}}},
+        {"link replaced by a folder", {link("b", "c/d"), link("a", "b/../.."), {"b", "", EntryKind::Folder}},
+         -1, {{"a", "l:b/../.."}, {"b", "l:c/d"}}},
         {"hard link", {file, hard_link("g", "f")}, 0, {{"f", "f:data"}, {"g", "f:data"}}},
         {"hard link, absolute", {file, hard_link("g", "/f")}, 0, {{"f", "f:data"}, {"g", "f:data"}}},
         {"hard link climbing out", {hard_link("g", "../../f")}, -1, {}},

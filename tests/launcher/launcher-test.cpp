@@ -41,6 +41,7 @@ public:
     int HandlePackageUpgrade() override
     {
         QThread::msleep(outcome.slow ? 300 : 0);
+        QDir().mkpath(QDir::homePath() + "/.Drovia/Drovia.app_new");  // the tree it replaced
         Step("Handle");
         return outcome.result;
     }
@@ -91,13 +92,15 @@ TEST(Launcher, LogsEachOutcomeInOrderShowingTheDialogOnlyToUpgrade)
     ASSERT_TRUE(QDir().mkpath(QDir::homePath() + "/.Drovia"));  // as main() leaves it, with the log
     const std::string head = "launcher: running|fake: Pre|";
     const std::string tail =
-        "|cloud-service: removing aged app folder ~/.Drovia/app|fake: Post|launcher: done|fake: destroyed";
-    EXPECT_EQ(RunLauncher({false, 0, false}), head + "launcher: no need to upgrade" + tail);
-    EXPECT_EQ(RunLauncher({true, 0, false}), head + "fake: Handle" + tail);
+        "|cloud-service: removing aged app folder ~/.Drovia/app|fake: Post|launcher: done|";
+    const std::string upgraded = tail + "cloud-service: removing '~/.Drovia/Drovia.app_new'|fake: destroyed";
+    EXPECT_EQ(RunLauncher({false, 0, false}),
+              head + "launcher: no need to upgrade" + tail + "fake: destroyed");
+    EXPECT_EQ(RunLauncher({true, 0, false}), head + "fake: Handle" + upgraded);
     EXPECT_EQ(RunLauncher({true, -1, false}),
-              head + "fake: Handle|launcher: Failed to upgrade package" + tail);
+              head + "fake: Handle|launcher: Failed to upgrade package" + upgraded);
     // Closing the last window ends the event loop while the upgrade still runs.
-    EXPECT_EQ(RunLauncher({true, 0, true}), head + "fake: Handle" + tail);
+    EXPECT_EQ(RunLauncher({true, 0, true}), head + "fake: Handle" + upgraded);
 }
 
 TEST(Launcher, ShowsTheEntriesUnpackedInWholePercents)

@@ -7,11 +7,11 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <cerrno>
 #include <deque>
+#include <regex>
 
 #include "files.h"
 #include "install-layout.h"
@@ -104,7 +104,7 @@ TEST_F(ServiceTest, InstallationReplacesTheBundleWholeOrNotAtAll)
     const std::string good = MakeArchive(ClientBundle(5, files));
     files.push_back({"../refused", "out"});  // fails after the others, before the version file
     const std::string bad = MakeArchive(ClientBundle(5, files));
-    // What lies beside the bundle: backups by index, 'n' the staging folder.
+    // What lies beside the bundle, its marker naming it: backups by index, 'n' the staging folder.
     const auto beside = [this](char index) {
         return user_app + (index == 'n' ? "_new" : "_tmp" + (index == '0' ? "" : QString(index)));
     };
@@ -123,7 +123,7 @@ TEST_F(ServiceTest, InstallationReplacesTheBundleWholeOrNotAtAll)
         {"leftovers beside the bundle", true, "02n", good, 0, "new"},
         {"every backup name taken", true, "0123456789", good, 0, "new"},
         {"rolled back", true, "n", bad, -1, "old"},
-        {"backup put back, then rolled back", false, "0", bad, -1, "earlier"},
+        {"latest backup put back, then rolled back", false, "03", bad, -1, "earlier3"},
         {"nothing to roll back to", false, "", bad, -1, ""},
     };
     for (const auto& row : rows) {
@@ -133,7 +133,7 @@ TEST_F(ServiceTest, InstallationReplacesTheBundleWholeOrNotAtAll)
         if (row.old)
             InstallForUser(4);
         for (const char* index = row.left_before; *index != '\0'; ++index)
-            ASSERT_TRUE(WriteBytes(beside(*index) + "/marker", "earlier"));
+            ASSERT_TRUE(WriteBytes(beside(*index) + "/marker", std::string("earlier") + *index));
 
         MacService service;
         service.SettleUserEnv();
@@ -286,8 +286,7 @@ TEST_F(ServiceTest, LaunchRecordNamesTheStartedClientAlone)
                 WriteBytes(client, "#!/bin/sh\n") &&
                 QFile::setPermissions(client, QFile::ReadOwner | QFile::ExeOwner));
     ASSERT_EQ(MacService().LaunchPerUserBin(), 0);
-    const QRegularExpression whole_line(QRegularExpression::anchoredPattern("pid=[1-9][0-9]*\n"));
-    EXPECT_TRUE(whole_line.match(QString::fromStdString(ReadBytes(record))).hasMatch());
+    EXPECT_TRUE(std::regex_match(ReadBytes(record), std::regex("pid=[1-9][0-9]*\n")));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -35,11 +34,6 @@ void LauncherSandbox::SetUp()
 QStringList LauncherSandbox::StartLines() const
 {
     return QString::fromStdString(ReadBytes(UserPath("started"))).split('\n', Qt::SkipEmptyParts);
-}
-
-QString LauncherSandbox::LastStartedPid() const
-{
-    return StartLines().value(StartLines().size() - 1).section(' ', 1, 1);
 }
 
 QString LauncherSandbox::UserPath(const QString& relative) const
@@ -91,13 +85,10 @@ void LauncherSandbox::StartLauncher(QProcess& launcher, const QProcessEnvironmen
 
 LauncherRun LauncherSandbox::RunLauncher(const QProcessEnvironment& env)
 {
-    QElapsedTimer timer;
-    timer.start();
     QProcess launcher;
     StartLauncher(launcher, env);
     LauncherRun run;
     const bool ended = launcher.waitForFinished(kTimeoutMs);
-    run.milliseconds = timer.elapsed();
     if (!ended)
         launcher.kill();
     launcher.waitForFinished();

@@ -13,7 +13,6 @@ struct LauncherRun {
     int exit_code = -1;  // -1 when it crashed or did not end in time
     QString out;
     QString err;
-    qint64 milliseconds = 0;
 };
 
 // A copy of the built Drovia.app and a scratch home, whose name has blanks
@@ -42,8 +41,7 @@ public:  // to the rows of tables too
     QString InstanceLockName(uid_t uid) const;
 
     QStringList LogMessages() const;
-    QStringList StartLines() const;  // "<build> <pid>" for each client started
-    QString LastStartedPid() const;
+    QStringList StartLines() const;                  // "<build> <pid>" for each client started
     QStringList StartedBuilds(int count = 1) const;  // once at least count clients started
     QStringList RunningBuilds() const;
     QString InstalledBuild() const;
