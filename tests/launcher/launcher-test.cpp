@@ -32,7 +32,7 @@ struct Outcome {
 
 class FakeService : public Service {
 public:
-    explicit FakeService(Outcome outcome) : outcome(outcome) {}
+    explicit FakeService(Outcome given) : outcome(given) { user_app_path = GetUserDroviaAppInstallPath(); }
     ~FakeService() override { Step("destroyed"); }
     void StopService() override {}
     bool IsNeedUpgrade() override { return outcome.upgrade; }

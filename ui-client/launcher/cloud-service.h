@@ -47,7 +47,7 @@ protected:
     static ustring PerUserVersionFile();
 
     int timeout = 0;
-    ustring user_app_path = GetUserDroviaAppInstallPath();
+    ustring user_app_path;
     ustring target_major_version;
     ustring target_minor_version;
     ustring target_build_version;

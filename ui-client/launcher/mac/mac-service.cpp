@@ -102,6 +102,7 @@ bool OverwriteFile(const ustring& path, const std::string& text)
 MacService::MacService()
 {
     timeout = kDefaultTimeout;
+    user_app_path = GetUserDroviaAppInstallPath();
 }
 
 MacService::~MacService() = default;
