@@ -7,11 +7,11 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <cerrno>
 #include <deque>
-#include <regex>
 
 #include "files.h"
 #include "install-layout.h"
@@ -286,7 +286,7 @@ TEST_F(ServiceTest, LaunchRecordNamesTheStartedClientAlone)
                 WriteBytes(client, "#!/bin/sh\n") &&
                 QFile::setPermissions(client, QFile::ReadOwner | QFile::ExeOwner));
     ASSERT_EQ(MacService().LaunchPerUserBin(), 0);
-    EXPECT_TRUE(std::regex_match(ReadBytes(record), std::regex("pid=[1-9][0-9]*\n")));
+    EXPECT_TRUE(QRegularExpression("\\Apid=[1-9][0-9]*\n\\z").match(ReadBytes(record).c_str()).hasMatch());
 }
 
 }  // namespace
