@@ -29,9 +29,8 @@ TEST_F(DialogUnderX, ShowsInTheUsersLanguageWhileTheOldClientStops)
         if (QStandardPaths::findExecutable(tool).isEmpty())
             GTEST_SKIP() << tool << " is not installed";
     }
-    // On whatever display number is free, and without the reset when the last
-    // client leaves: the window lookups come and go, and a launcher connecting
-    // while the server resets is dropped.
+    // On a free display, without the reset when the last client leaves: the window
+    // lookups come and go, and a launcher connecting while the server resets is dropped.
     QProcess xvfb;
     xvfb.start("Xvfb", {"-displayfd", "1", "-nolisten", "tcp", "-noreset", "-screen", "0", "800x600x24"});
     ASSERT_TRUE(xvfb.waitForReadyRead());
@@ -55,7 +54,9 @@ TEST_F(DialogUnderX, ShowsInTheUsersLanguageWhileTheOldClientStops)
         EXPECT_TRUE(QTest::qWaitFor([&] { return !(window = DialogWindow(display)).isEmpty(); }, 15000))
             << "no dialog on screen";
         const QString capture = QString(E2E_ARTIFACT_DIR "/upgrade-dialog-%1").arg(locales[run]);
-        EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", window, capture + ".png"}), 0);
+        const QStringList shot = {"-display", display, "-window", window, capture + ".png"};
+        // Listed before the server maps it, the window can be captured only once shown.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QProcess::execute("import", shot) == 0; }));
         EXPECT_EQ(QProcess::execute("import", {"-display", display, "-window", window, "rgb:" + capture}), 0);
         pixels[run] = ReadBytes(capture);
         EXPECT_EQ(RunLauncher(env).exit_code, 0) << "a second launcher";

@@ -31,14 +31,12 @@ std::vector<PackageEntry> Files(const std::string& folder, int count)
     return files;
 }
 
-// A call by its name and its number among the calls of that name that its
-// thread made, as strace counts them for an injection.
+// A call by its name and its number among its thread's calls of that name (strace's count).
 using Call = std::pair<QString, int>;
 
 class Installation : public LauncherSandbox {
 protected:
-    // In a new home, with its client running: the clients of earlier homes
-    // may still run, but they are not this home's.
+    // In a new home, with its client running; earlier homes' clients may still run.
     void InstallOldBuild(const QString& home_name)
     {
         MoveToNewHome(home_name);
@@ -173,9 +171,8 @@ TEST_F(Installation, TenStoppedUpgradesInARowThenOneThatCompletes)
     ExpectInstalled(new_build, "5", "after ten stops");
 }
 
-// A power cut right after the run, or once the file system has committed
-// its journal: ~/.Drovia on an ext4 image whose backing file is copied at
-// those moments, and each copy mounted as the restarted machine would.
+// A power cut right after the run, or after the journal's commit: ~/.Drovia on an
+// ext4 image whose file is copied at those moments, each copy mounted as after a restart.
 TEST_F(Installation, PowerCutAfterTheRunLeavesTheOldOrTheNewInstallation)
 {
     const QString image = sandbox.filePath("drovia.img");
@@ -188,6 +185,8 @@ TEST_F(Installation, PowerCutAfterTheRunLeavesTheOldOrTheNewInstallation)
     InstallForUser(old_build);
     sync();
     Ship(5, MakeArchive(new_build));
+    RunUnderStrace({"-e", "inject=syncfs:error=EIO"});  // a disk that cannot write back: nothing replaced
+    EXPECT_EQ(InstalledBuild(), "4");
     EXPECT_EQ(RunLauncher().exit_code, 0);
     ASSERT_TRUE(QFile::copy(image, sandbox.filePath("right after")));
     QThread::msleep(2000);
