@@ -45,7 +45,7 @@ stop_demo_client() {
     is_demo_client "$pid" || return 0
     kill -TERM "$pid"
     for _ in $(seq "$CLIENT_START_TIMEOUT"); do
-        kill -0 "$pid" 2>/dev/null || break
+        is_demo_client "$pid" || break
         sleep 0.1
     done
     echo "   (demo stopped the client, pid $pid)"
@@ -95,7 +95,7 @@ run_launcher() {
     echo "-- log:"
     tail -n "+$((log_start + 1))" "$LOG" | cut -c17- | sed 's/^/   /'
     if [ -n "$old_pid" ]; then
-        if kill -0 "$old_pid" 2>/dev/null; then
+        if is_demo_client "$old_pid"; then
             echo "-- old client (pid $old_pid): still running"
         else
             echo "-- old client (pid $old_pid): stopped by the launcher"
