@@ -1,6 +1,5 @@
-// The progress dialog on an X server of the test's own while the old client
-// stops: on screen, in the user's language from its first text on, and alone:
-// a second launcher started meanwhile leaves at once.
+// The progress dialog on an X server of the test's own while the old client stops: on screen,
+// in the user's language from its first text on, and alone: a second launcher leaves at once.
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>

@@ -114,9 +114,8 @@ void PrintTo(const Upgrade& upgrade, std::ostream* out)
 
 class StoppedUpgrade : public Installation, public ::testing::WithParamInterface<Upgrade> {};
 
-// Stopped mostly by SIGKILL, at some points by the signals of a session that
-// ends. After each stop the next run, and for a failing package a run with a
-// good one after it, leaves the old or the new installation and its client.
+// Stopped mostly by SIGKILL, at some points by a session's end signals. After each stop the next
+// run (for a failing package, then a good one) leaves the old or the new installation and its client.
 TEST_P(StoppedUpgrade, EndsWithTheOldOrTheNewInstallationOnTheNextRun)
 {
     const Upgrade upgrade = GetParam();

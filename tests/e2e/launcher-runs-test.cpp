@@ -54,9 +54,8 @@ TEST_F(LauncherRuns, FreshInstallThenNothingToDoWhileTheClientRuns)
         close(fd);
 }
 
-// Another launcher of the user's, from another copy of the bundle, is upgrading:
-// this one waits, leaving the installation and the other's unpack alone, and
-// then finds nothing to do.
+// Another launcher of the user's, from another copy of the bundle, is upgrading: this one
+// waits, leaving the installation and the other's unpack alone, then finds nothing to do.
 TEST_F(LauncherRuns, WaitsWhileAnotherLauncherHoldsTheInstallation)
 {
     InstallForUser(ClientBundle(4));
@@ -75,10 +74,9 @@ TEST_F(LauncherRuns, WaitsWhileAnotherLauncherHoldsTheInstallation)
     EXPECT_EQ(RunningBuilds(), QStringList{"5"});
 }
 
-// A 1 MiB file system of 32 files holds the old installation but neither the
-// new package's bytes nor its entries, and a file stands where the log folder
-// belongs; one of 8 MiB and 12 files refuses it before writing anything; one
-// that counts no files, as some do, takes a package that fits.
+// A 1 MiB file system of 32 files holds the old installation but neither the new package's
+// bytes nor its entries, and a file stands where the log folder belongs; one of 8 MiB and
+// 12 files refuses it before writing anything; one that counts no files takes one that fits.
 TEST_F(LauncherRuns, FullDiskKeepsTheOldInstallationAndLogsToStandardError)
 {
     std::mt19937 random(7);

@@ -7,6 +7,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+
 #include "files.h"
 #include "install-layout.h"
 
@@ -132,17 +134,22 @@ QStringList LauncherSandbox::StartedBuilds(int count) const
     return StartLines().replaceInStrings(QRegularExpression(" .*"), "");
 }
 
-// Once the client the last launcher started, if any, has announced itself.
-// An ended client, even one not reaped yet, has no executable left.
+// Once every client running from this home has announced itself, however its
+// launcher ended. An ended client, even one not reaped yet, has no executable left.
 QStringList LauncherSandbox::RunningBuilds() const
 {
-    const QString record = QString::fromStdString(ReadBytes(UserPath(layout::kLaunchRecord)));
-    const QString launched = " " + record.section('=', 1).trimmed();
-    (void)QTest::qWaitFor([&] { return launched == " " || StartLines().join('\n').contains(launched); },
+    const QString installation = QFileInfo(UserPath("")).canonicalFilePath() + "/";
+    const auto runs = [](const QString& pid) { return QFile::symLinkTarget("/proc/" + pid + "/exe"); };
+    const auto unannounced = [&](const QString& pid) {
+        return runs(pid).startsWith(installation) &&
+               !(StartLines().join('\n') + '\n').contains(" " + pid + '\n');
+    };
+    const QStringList pids = QDir("/proc").entryList(QDir::Dirs);
+    (void)QTest::qWaitFor([&] { return std::none_of(pids.cbegin(), pids.cend(), unannounced); },
                           kClientStartTimeoutMs);
     QStringList builds;
     for (const QString& line : StartLines()) {
-        if (!QFile::symLinkTarget("/proc/" + line.section(' ', 1, 1) + "/exe").isEmpty())
+        if (!runs(line.section(' ', 1, 1)).isEmpty())
             builds << line.section(' ', 0, 0);
     }
     return builds;

@@ -15,11 +15,10 @@ struct LauncherRun {
     QString err;
 };
 
-// A copy of the built Drovia.app and a scratch home, whose name has blanks
-// and composed and decomposed accents, where the launcher runs as a user
-// would. Packages carry the stand-in client, which appends "<build> <pid>"
-// to ~/.Drovia/started when it starts. Skips outside namespaces of its own
-// (in-own-namespace.sh).
+// A copy of the built Drovia.app and a scratch home, named with blanks and composed and
+// decomposed accents, where the launcher runs as a user would. Packages carry the stand-in
+// client, which appends "<build> <pid>" to ~/.Drovia/started when it starts. Skips outside
+// namespaces of its own (in-own-namespace.sh).
 class LauncherSandbox : public ::testing::Test {
 public:  // to the rows of tables too
     void SetUp() override;

@@ -1,8 +1,7 @@
-// The client as the tests need it: a real executable in the per-user bundle,
-// recognised by the launcher as the client. It appends "<build> <pid>" to
-// ~/.Drovia/started, writes its pid file as the demo client does and runs
-// until SIGTERM, or, with DROVIA_STAND_IN=ignore-term, ignores it, or with
-// slow-exit leaves two seconds later. It never runs longer than a minute.
+// The client as the tests need it: a real executable in the per-user bundle, recognised by
+// the launcher as the client. It appends "<build> <pid>" to ~/.Drovia/started, writes its pid
+// file as the demo client does and runs until SIGTERM, or, with DROVIA_STAND_IN=ignore-term,
+// ignores it, or with slow-exit leaves two seconds later. It never runs longer than a minute.
 #include <signal.h>
 #include <unistd.h>
 
