@@ -47,8 +47,10 @@ bool Expand(const std::string& target, std::deque<std::string>& ahead, int& foll
 
 // Whether the link at name stays below the destination when followed
 // through the links: each link met on the way is read from its own folder,
-// as the kernel reads it, and a loop leads out.
-bool ResolvesInside(const LinkTargets& links, const std::string& name, const std::string& target)
+// as the kernel reads it, and a loop leads out. walked receives every path
+// the walk looked up, the only places where another link could change it.
+bool ResolvesInside(const LinkTargets& links, const std::string& name, const std::string& target,
+                    std::vector<std::string>& walked)
 {
     std::vector<std::string> folder = Components(name);
     std::deque<std::string> ahead;
@@ -66,20 +68,12 @@ bool ResolvesInside(const LinkTargets& links, const std::string& name, const std
             continue;
         }
         folder.push_back(part);
-        const auto link = links.find(Joined(folder, folder.size()));
+        walked.push_back(Joined(folder, folder.size()));
+        const auto link = links.find(walked.back());
         if (link == links.end())
             continue;
         folder.pop_back();
         if (!Expand(link->second, ahead, followed))
-            return false;
-    }
-    return true;
-}
-
-bool AllResolveInside(const LinkTargets& links)
-{
-    for (const auto& [name, target] : links) {
-        if (!ResolvesInside(links, name, target))
             return false;
     }
     return true;
@@ -115,18 +109,35 @@ std::string EntryGuard::Refusal(archive_entry* entry)
     if (!is_symbolic_link && symbolic_links.count(key) == 0)
         return std::string();
 
-    // The writer replaces whatever the name held, and a link that goes or
-    // changes can change where the others lead.
-    LinkTargets links = symbolic_links;
+    // The writer replaces whatever the name held. That changes where the
+    // links lead whose walk passed the name, and only those: judging just
+    // them keeps a package of many links from costing the square of their
+    // number. A refusal ends the unpack, so nothing needs to be undone.
+    std::set<std::string> affected;
+    affected.swap(walkers[key]);
     const char* target = archive_entry_symlink(entry);
-    if (is_symbolic_link)
-        links[key] = target != nullptr ? target : "";
-    else
-        links.erase(key);
-    if (!AllResolveInside(links))
-        return "a symbolic link would lead out of the folder";
-    symbolic_links.swap(links);
+    if (is_symbolic_link) {
+        symbolic_links[key] = target != nullptr ? target : "";
+        affected.insert(key);
+    } else {
+        symbolic_links.erase(key);
+    }
+    for (const std::string& link : affected) {
+        if (symbolic_links.count(link) != 0 && !StaysInside(link))
+            return "a symbolic link would lead out of the folder";
+    }
     return std::string();
+}
+
+// Notes the paths the link's walk passed, so that a change at one of them
+// judges it again.
+bool EntryGuard::StaysInside(const std::string& link)
+{
+    std::vector<std::string> walked;
+    const bool inside = ResolvesInside(symbolic_links, link, symbolic_links.at(link), walked);
+    for (const std::string& path : walked)
+        walkers[path].insert(link);
+    return inside;
 }
 
 // The first symbolic link made so far that the path passes through: one of

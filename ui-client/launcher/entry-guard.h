@@ -2,6 +2,7 @@
 #define ENTRY_GUARD_H
 
 #include <map>
+#include <set>
 #include <string>
 
 // A symbolic link's name, without "./" or doubled "/", to its target as the
@@ -14,8 +15,8 @@ struct archive_entry;
 // (FIFOs, devices, sockets), any entry or hard-link target that would be
 // reached through a symbolic link the unpack itself made, and any symbolic
 // link that would lead out of the folder: judged by where it resolves,
-// through the links made before it, and again for every link whenever a
-// later entry adds or replaces one. Relative links inside the folder, as
+// through the links made before it, and again whenever a later entry adds
+// or replaces a link on its way. Relative links inside the folder, as
 // bundles' frameworks have, are let through.
 class EntryGuard {
 public:
@@ -25,8 +26,10 @@ public:
 
 private:
     std::string LinkOnTheWay(const std::string& path, bool to_the_end) const;
+    bool StaysInside(const std::string& link);
 
-    LinkTargets symbolic_links;  // the links the unpack made
+    LinkTargets symbolic_links;                            // the links the unpack made
+    std::map<std::string, std::set<std::string>> walkers;  // a path to the links whose walk passed it
 };
 
 #endif  // ENTRY_GUARD_H
