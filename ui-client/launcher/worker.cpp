@@ -60,7 +60,8 @@ void Worker::HandleServicce()
     WaitForOtherLaunchers(lock);
     service->SettleUserEnv();
     service->PreUpgrade();
-    if (service->IsNeedUpgrade())
+    const bool upgrading = service->IsNeedUpgrade();
+    if (upgrading)
         UpgradePackage();
     else
         LOG_MSG(DEBUG, "no need to upgrade");
@@ -71,7 +72,8 @@ void Worker::HandleServicce()
     emit sigServiceDone();
     // The tree an upgrade replaced goes once the dialog is gone and the new
     // client runs; the lock keeps other launchers waiting until it has.
-    service->SettleUserEnv();
+    if (upgrading)
+        service->SettleUserEnv();
 }
 
 // Another copy of the bundle may be replacing the installation or starting
